@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/Bundles.h"
+
+#include <QFileInfo>
+
+namespace zt {
+
+std::optional<QString> Bundle::stringForKey(const QString &key) const
+{
+    const QVariant value = m_layout.information.value(key);
+    if (value.metaType() != QMetaType::fromType<QString>())
+        return std::nullopt;
+    return value.toString();
+}
+
+std::optional<QString> Bundle::pathForResource(const QString &name, const QString &type) const
+{
+    if (name.isEmpty() || m_layout.resourcesPath.isEmpty())
+        return std::nullopt;
+    const QString fileName = type.isEmpty() ? name : name + u'.' + type;
+    const QFileInfo resource(m_layout.resourcesPath + u'/' + fileName);
+    if (!resource.exists())
+        return std::nullopt;
+    // A name such as "../../secret" must not reach a file outside the bundle's resources.
+    const QString folder = QFileInfo(m_layout.resourcesPath).canonicalFilePath();
+    if (!resource.canonicalFilePath().startsWith(folder + u'/'))
+        return std::nullopt;
+    return resource.filePath();
+}
+
+} // namespace zt

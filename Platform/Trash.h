@@ -1,0 +1,31 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Moving files to the Trash.
+
+#include "Platform/Result.h"
+
+#include <string>
+
+namespace zt {
+
+// Paths are bytes in the file system's own encoding. Thread: any, for all operations.
+class Trash {
+public:
+    virtual ~Trash() = default;
+
+    // Moves the item at the absolute path (a file, a folder with all that is in it, or a symbolic
+    // link itself) to the user's Trash, on the item's own volume, with a record of where it came
+    // from, so that the desktop can put it back. Answers the item's path in the Trash. On failure
+    // the item is where it was.
+    virtual Result<std::string> moveToTrash(const std::string &path) = 0;
+
+protected:
+    Trash() = default;
+    Trash(const Trash &) = default;
+    Trash &operator=(const Trash &) = default;
+};
+
+} // namespace zt

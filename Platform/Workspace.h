@@ -1,0 +1,55 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the desktop does for its applications: icons and names of files, opening them, telling
+// other programs of changes, and the standard folders.
+
+#include <QIcon>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <optional>
+
+namespace zt {
+
+class Workspace {
+public:
+    enum class Domain { Local, User };
+
+    virtual ~Workspace() = default;
+
+    // The icon that the desktop shows for the file, a bundle's own icon for a bundle. A null icon
+    // when there is none. Thread: main.
+    virtual QIcon iconForFile(const QString &path) = 0;
+
+    // Opens the document in the application that the desktop assigns to it, or starts the bundle.
+    // Answers whether that was under way. Thread: any.
+    virtual bool openFile(const QString &path) = 0;
+
+    // Opens the address in the default browser or other handler. Answers whether that was under
+    // way. Thread: any.
+    virtual bool openUrl(const QUrl &url) = 0;
+
+    // The name under which the desktop shows the item: localized, and without an extension that is
+    // hidden from users. The last path component when there is nothing better. Thread: any.
+    virtual QString displayName(const QString &path) const = 0;
+
+    // Tells the desktop's file managers that something changed at the path. Thread: any.
+    virtual void noteFileSystemChanged(const QString &path) = 0;
+
+    // The folders in which applications are kept, absolute; they need not exist. Thread: any.
+    virtual QStringList applicationsFolders(Domain domain) const = 0;
+
+    // Sounds the alert. Thread: main.
+    virtual void beep() = 0;
+
+protected:
+    Workspace() = default;
+    Workspace(const Workspace &) = default;
+    Workspace &operator=(const Workspace &) = default;
+};
+
+} // namespace zt

@@ -1,0 +1,39 @@
+# Compiler options that every target of this project shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+set(VELMORA_SANITIZER "" CACHE STRING "Sanitizer: empty, 'address' (with undefined behaviour) or 'thread'")
+set_property(CACHE VELMORA_SANITIZER PROPERTY STRINGS "" address thread)
+option(VELMORA_FUZZ_TARGETS "Build the libFuzzer targets (clang only)" OFF)
+
+# velmora_target_options(<target>): warnings as errors, hardening and the chosen sanitizer.
+function(velmora_target_options target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
+        -Wold-style-cast -Woverloaded-virtual -Wcast-align -Wformat=2
+        -Wimplicit-fallthrough -Werror
+        $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>)
+    # Qt's keyword macros ("signals", "emit") collide with the headers of other libraries.
+    target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
+        QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    if(VELMORA_SANITIZER STREQUAL "address")
+        target_compile_options(${target} PRIVATE -fsanitize=address,undefined
+            -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=address,undefined)
+    elseif(VELMORA_SANITIZER STREQUAL "thread")
+        target_compile_options(${target} PRIVATE -fsanitize=thread -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=thread)
+    else()
+        target_compile_options(${target} PRIVATE -fstack-protector-strong
+            $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+        target_link_options(${target} PRIVATE -Wl,-z,relro,-z,now)
+    endif()
+endfunction()
