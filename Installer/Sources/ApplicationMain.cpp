@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Installer/Sources/ApplicationMain.h"
+
+#include "Installer/Sources/InstallerWinController.h"
+#include "Installer/Sources/LogRedirection.h"
+#include "Platform/NativePlatform.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace {
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+} // namespace
+
+int applicationMain(int argumentCount, char **argumentVector)
+{
+    if (!hasDisplay()) {
+        std::fputs("VelmoraInstaller: there is no screen to show a window on. Start it from a "
+                   "desktop session, or set DISPLAY.\n",
+                   stderr);
+        return 1;
+    }
+    QStringList arguments;
+    for (int i = 0; i < argumentCount; ++i)
+        arguments << QString::fromLocal8Bit(argumentVector[i]);
+    // The keys are the installer's own: the framework must not take "-style" or "-name" for itself.
+    int frameworkArgumentCount = 1;
+    QApplication application(frameworkArgumentCount, argumentVector);
+    QApplication::setApplicationName(QStringLiteral("VelmoraInstaller"));
+
+    const zt::NativePlatform native(arguments);
+    const zt::ScopedPlatform current(native.services());
+    InstallerWinController controller({.platform = native.services(),
+                                       .argumentVector = arguments,
+                                       .redirectStandardStreams = redirectStandardStreams});
+    QApplication::setQuitOnLastWindowClosed(
+        controller.applicationShouldTerminateAfterLastWindowClosed());
+    controller.awakeFromNib();
+    return QApplication::exec();
+}

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Installer/Sources/InstallerWinController.h"
+
+#include "Installer/Sources/InstallerArguments.h"
+#include "Installer/Sources/LocalizedString.h"
+#include "Platform/Appearance.h"
+#include "Platform/Workspace.h"
+#include "ZTStuff/CocoaExtensions/AppearancePalette.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QShortcut>
+#include <QTabBar>
+
+InstallerWinController::InstallerWinController(Environment environment)
+    : m_environment(std::move(environment)), m_platform(m_environment.platform),
+      m_platformPalette(QApplication::palette())
+{
+    followAppearance();
+    m_ui.setupUi(&m_window);
+    m_window.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    m_ui.mainScrollArea->viewport()->setAutoFillBackground(false);
+    m_ui.mainContents->setAutoFillBackground(false);
+    QFont nameFont = m_ui.nameField->font();
+    nameFont.setPointSizeF(nameFont.pointSizeF() * 1.5);
+    nameFont.setBold(true);
+    m_ui.nameField->setFont(nameFont);
+    QFont pathFont = m_ui.pathField->font();
+    pathFont.setBold(true);
+    m_ui.pathField->setFont(pathFont);
+    QSizePolicy progressPolicy = m_ui.progressIndicator->sizePolicy();
+    progressPolicy.setRetainSizeWhenHidden(true);
+    m_ui.progressIndicator->setSizePolicy(progressPolicy);
+    animateProgress(Progress::Stopped);
+
+    connect(m_ui.installButton, &QPushButton::clicked, this, &InstallerWinController::install);
+    connect(m_ui.cancelButton, &QPushButton::clicked, this, &InstallerWinController::cancel);
+    connect(m_ui.helpButton, &QPushButton::clicked, this,
+            &InstallerWinController::openDocumentation);
+    connect(m_ui.readMeTextView, &QTextBrowser::anchorClicked, this,
+            [this](const QUrl &link) { m_platform.workspace.openUrl(link); });
+    auto *escape = new QShortcut(Qt::Key_Escape, &m_window);
+    connect(escape, &QShortcut::activated, m_ui.cancelButton, &QPushButton::click);
+}
+
+InstallerWinController::~InstallerWinController()
+{
+    m_platform.appearance.setChangeListener({});
+}
+
+bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() const
+{
+    return true;
+}
+
+void InstallerWinController::selectTab(int pageIndex)
+{
+    m_ui.tabView->setCurrentIndex(pageIndex);
+    const bool mainPage = pageIndex != ReadMePage;
+    m_ui.installButton->setText(localizedString(mainPage ? "Install" : "Continue"));
+    if (m_arguments.contains(ZTInstallerKeyReadMePath))
+        m_ui.cancelButton->setText(localizedString(mainPage ? "Go Back" : "Cancel"));
+}
+
+void InstallerWinController::showSetupError(const QString &message)
+{
+    ZTLog("%@", message);
+    showFinalMessage(message.toUtf8().constData());
+    // The title is still the format with its placeholder when the product has no name yet.
+    if (m_window.windowTitle().contains(u'%'))
+        m_window.setWindowTitle({});
+    showWindow();
+}
+
+std::optional<QString> InstallerWinController::argument(const QString &key) const
+{
+    return InstallerArguments::stringArgument(m_arguments, key);
+}
+
+QString InstallerWinController::productName() const
+{
+    return argument(ZTInstallerKeyProductName).value_or(QString());
+}
+
+void InstallerWinController::followAppearance()
+{
+    // The framework's own platform themes follow the desktop's light or dark setting in some
+    // desktops only; where theirs already fits, it stays.
+    const auto apply = [this] {
+        const auto scheme = m_platform.appearance.preferredScheme();
+        const bool wantsDark = scheme == zt::Appearance::Scheme::Dark;
+        const bool fits = !scheme || isDarkPalette(m_platformPalette) == wantsDark;
+        QApplication::setPalette(fits ? m_platformPalette : paletteForScheme(*scheme));
+    };
+    apply();
+    m_platform.appearance.setChangeListener([this, apply] {
+        apply();
+        colorMessageField();
+    });
+}
+
+void InstallerWinController::colorMessageField()
+{
+    const QColor onLight = QColor::fromRgb(0xb3, 0x14, 0x1f);
+    const QColor onDark = QColor::fromRgb(0xff, 0x8a, 0x80);
+    QPalette palette;
+    palette.setColor(QPalette::WindowText,
+                     isDarkPalette(QApplication::palette()) ? onDark : onLight);
+    m_ui.messageField->setPalette(palette);
+}
+
+void InstallerWinController::announce(QWidget *field)
+{
+    QAccessibleEvent event(field, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}

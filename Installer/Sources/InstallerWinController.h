@@ -1,0 +1,128 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The installer's central object: fills the window, answers its buttons and runs the installation.
+
+#include "Platform/Bundles.h"
+#include "Platform/Platform.h"
+#include "ui_InstallerWindow.h"
+
+#include <QDialog>
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <thread>
+
+class QMessageBox;
+
+// One for each process. Thread: main, unless an operation says otherwise.
+class InstallerWinController final : public QObject {
+    Q_OBJECT
+
+public:
+    // What the controller needs of the process around it. The platform must be the current one and
+    // outlive the controller.
+    struct Environment {
+        const zt::Platform &platform;
+        QStringList argumentVector; // element 0 included
+        std::function<void(const QString &path)> redirectStandardStreams;
+    };
+
+    enum Page { ReadMePage = 0, MainPage = 1 };
+
+    explicit InstallerWinController(Environment environment);
+    // Asks a running installation to stop and waits for its thread.
+    ~InstallerWinController() override;
+
+    // The window, set up but not shown before awakeFromNib.
+    QDialog &window() { return m_window; }
+
+    // Closing the window quits the installer: always true.
+    bool applicationShouldTerminateAfterLastWindowClosed() const;
+
+    // The start-up sequence, to be run once: redirects the log, completes the arguments, fills the
+    // window and shows it with its first page, a set-up error, or the alert that the system is too
+    // old.
+    void awakeFromNib();
+
+    // Shows a page and titles the buttons for it.
+    void selectTab(int pageIndex);
+
+    // Ends start-up: shows the error as the final message.
+    void showSetupError(const QString &message);
+
+    // The end of the alert that the system is too old: visits the archive when the second button
+    // was pressed, and quits.
+    static constexpr int secondButtonReturnCode = 1001;
+    void systemVersionAlertDidEnd(int returnCode);
+
+    // Where the installed product should go, and how paths are shown.
+    std::optional<QString> findPreferredDestinationFor(const QString &productName) const;
+    std::optional<QString> autoLaunchPathFor(const QString &productName) const;
+    bool isInUnsupportedFolder(const std::optional<QString> &path) const;
+    QString applicationsDirectory() const;
+    bool canWriteToFileOrDirectory(const QString &path) const;
+    bool canWriteToPath(const QString &path) const;
+    bool canWriteToFile(const QString &path) const;
+    bool canWriteToDirectory(const QString &folder) const;
+    QString localizedPath(const QString &path) const;
+    QString recursiveLocalizedPath(const QString &path) const;
+
+    // Button actions.
+    void install();
+    void cancel();
+    void openDocumentation();
+
+    enum class Progress { Running, Stopped };
+    void animateProgress(Progress progress);
+
+    // Shows the outcome of an installation: no message for success, else the message, empty to show
+    // none.
+    void installationFinished(const std::optional<QString> &message);
+
+    // The window's last state: one message, and a button that quits. The key takes the product name
+    // for its placeholder.
+    void showFinalMessage(const char *messageKey);
+
+    void playDoneSound();
+
+private:
+    // Start-up, step by step.
+    bool completeArguments(const std::optional<zt::Bundle> &product);
+    void fillIcon(const std::optional<zt::Bundle> &product);
+    void fillTexts(const std::optional<QString> &version);
+    void fillReadMe();
+    void showWindow();
+    void showSystemVersionAlert(const std::optional<QString> &version,
+                                const QString &minimumSystemVersion);
+
+    // The appearance that the user prefers, also when that changes.
+    void followAppearance();
+    void colorMessageField();
+
+    // The installation. Thread: install.
+    void installThread(const std::stop_token &stop);
+    std::optional<QString> installMyselfInDestination(const std::stop_token &stop);
+    QString failureMessage(const QString &messageKey) const;
+
+    void applyTimedQuit();
+    void announce(QWidget *field);
+
+    std::optional<QString> argument(const QString &key) const;
+    QString productName() const;
+
+    Environment m_environment;
+    const zt::Platform &m_platform;
+    QDialog m_window;
+    Ui::InstallerWindow m_ui;
+    QPalette m_platformPalette; // the one that the desktop gave at start
+    QVariantMap m_arguments;    // fixed once start-up is done; the install thread reads it
+    bool m_finished = false;
+    std::jthread m_installThread;
+};

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Installer/Sources/InstallerWinController.h"
+
+#include "Installer/Sources/IconFile.h"
+#include "Installer/Sources/LocalizedString.h"
+#include "Platform/Clock.h"
+#include "Platform/UserDefaults.h"
+#include "Platform/Workspace.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+
+#include <QApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A longer delay than a month is as good as none, and would not fit a timer.
+constexpr float longestQuitDelay = 2'000'000; // seconds
+
+} // namespace
+
+void InstallerWinController::installationFinished(const std::optional<QString> &message)
+{
+    if (message) {
+        colorMessageField();
+        m_ui.messageField->setText(*message);
+        m_ui.messageField->setVisible(!message->isEmpty());
+        m_ui.cancelButton->setEnabled(true);
+        if (!message->isEmpty())
+            announce(m_ui.messageField);
+    } else {
+        showFinalMessage("%@ was successfully installed.");
+        if (const auto path =
+                m_platform.bundles.mainBundle().pathForResource(u"Checkmark"_s, u"svg"_s))
+            m_ui.checkmarkField->setIcon(loadIcon(*path).value_or(QIcon()));
+        m_ui.checkmarkField->show();
+        m_ui.cancelButton->hide();
+        m_ui.cancelButton->setEnabled(false);
+        if (!m_platform.userDefaults.boolForKey(u"nosound"_s))
+            playDoneSound();
+    }
+    m_ui.installButton->setEnabled(true);
+    m_ui.installButton->setFocus();
+    animateProgress(Progress::Stopped);
+    applyTimedQuit();
+}
+
+void InstallerWinController::applyTimedQuit()
+{
+    const auto text = argument(ZTInstallerCompletionQuit);
+    if (!text)
+        return;
+    const float seconds = floatValue(*text);
+    ZTLog("quit delay: %1.1f", seconds);
+    if (seconds > 0) {
+        const auto delay = std::chrono::duration_cast<std::chrono::milliseconds>(
+            std::chrono::duration<float>(std::min(seconds, longestQuitDelay)));
+        m_platform.clock.callAfter(delay, [] { QApplication::quit(); });
+    }
+}
+
+void InstallerWinController::showFinalMessage(const char *messageKey)
+{
+    m_ui.cancelButton->hide();
+    m_ui.installButton->setText(localizedString("OK"));
+    m_ui.pathField->hide();
+    m_ui.explanationField->hide();
+    m_ui.messageField->hide();
+    m_ui.helpButton->hide();
+    m_ui.introField->setText(ZTFormat(localizedString(messageKey), productName()));
+    m_finished = true;
+    announce(m_ui.introField);
+}
+
+void InstallerWinController::playDoneSound()
+{
+    if (argument(ZTInstallerCompletionSound) == u"YES"_s)
+        m_platform.workspace.beep();
+}
+
+void InstallerWinController::openDocumentation()
+{
+    const auto path = argument(ZTInstallerKeyDocumentationPath);
+    if (!path) {
+        ZTLog("documentation path missing");
+        m_platform.workspace.beep();
+        return;
+    }
+    m_platform.workspace.openFile(*path);
+}

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Installer/Sources/InstallerWinController.h"
+
+#include "Installer/Sources/LocalizedString.h"
+#include "Installer/train/InstallFunction.h"
+#include "Platform/Log.h"
+#include "Platform/Workspace.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+
+#include <QApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+void InstallerWinController::install()
+{
+    if (m_finished) {
+        QApplication::quit();
+        return;
+    }
+    if (m_ui.tabView->currentIndex() == ReadMePage) {
+        selectTab(MainPage);
+        return;
+    }
+    m_ui.installButton->setEnabled(false);
+    m_ui.cancelButton->setEnabled(false);
+    m_installThread = std::jthread([this](const std::stop_token &stop) { installThread(stop); });
+}
+
+void InstallerWinController::cancel()
+{
+    if (m_arguments.contains(ZTInstallerKeyReadMePath) &&
+        m_ui.tabView->currentIndex() == MainPage) {
+        selectTab(ReadMePage);
+        return;
+    }
+    QApplication::quit();
+}
+
+void InstallerWinController::animateProgress(Progress progress)
+{
+    m_ui.progressIndicator->setVisible(progress == Progress::Running);
+}
+
+void InstallerWinController::installThread(const std::stop_token &stop)
+{
+    const auto onMainThread = [this](auto operation) {
+        QMetaObject::invokeMethod(this, std::move(operation), Qt::QueuedConnection);
+    };
+    ZTLog("Install");
+    onMainThread([this] { animateProgress(Progress::Running); });
+    std::optional<QString> message;
+    if (const auto messageKey = installMyselfInDestination(stop))
+        message = messageKey->isEmpty() ? *messageKey : failureMessage(*messageKey);
+    onMainThread([this, message] { installationFinished(message); });
+}
+
+std::optional<QString>
+InstallerWinController::installMyselfInDestination(const std::stop_token &stop)
+{
+    const auto bytes = [this](const QString &key) {
+        return QFile::encodeName(argument(key).value_or(QString())).toStdString();
+    };
+    InstallPaths paths{.source = bytes(ZTInstallerKeySourcePath),
+                       .destination = bytes(ZTInstallerKeyDestinationPath),
+                       .wrapper = std::nullopt};
+    if (m_arguments.contains(ZTInstallerKeyWrapperPath))
+        paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
+    const InstallResult result = InstallApplication(
+        paths, {.trash = m_platform.trash,
+                .log = [this](std::string_view line) { m_platform.log.writeLine(line); },
+                .noteFileSystemChanged =
+                    [this](const std::string &path) {
+                        m_platform.workspace.noteFileSystemChanged(
+                            QFile::decodeName(path.c_str()));
+                    },
+                .stop = stop});
+    switch (result) {
+    case InstallResult::Success: return std::nullopt;
+    case InstallResult::TrashFailed: return u"Could not delete existing copy."_s;
+    case InstallResult::CopyFailed: break;
+    }
+    return u"Installation failed."_s;
+}
+
+QString InstallerWinController::failureMessage(const QString &messageKey) const
+{
+    QString message = ZTFormat(localizedString(messageKey.toUtf8().constData()), productName());
+    // A wrapped product cannot be installed by copying one item.
+    if (!m_arguments.contains(ZTInstallerKeyWrapperPath)) {
+        message += ZTFormat("\r%@", ZTFormat(localizedString("Try installing %1$@ manually by "
+                                                             "copying it to the Applications "
+                                                             "folder."),
+                                             productName()));
+    }
+    return message;
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Owners for objects of the GLib library.
+
+#include <gio/gdesktopappinfo.h>
+
+#include <memory>
+
+namespace zt {
+
+struct GLibDeleter {
+    void operator()(gchar *text) const { g_free(text); }
+    void operator()(gchar **list) const { g_strfreev(list); }
+    void operator()(GError *error) const { g_error_free(error); }
+    void operator()(GKeyFile *file) const { g_key_file_free(file); }
+    void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
+};
+
+template <typename T>
+using GLibPointer = std::unique_ptr<T, GLibDeleter>;
+
+} // namespace zt

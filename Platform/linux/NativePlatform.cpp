@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/NativePlatform.h"
+
+#include "Platform/linux/AutostartLoginItems.h"
+#include "Platform/linux/DesktopWorkspace.h"
+#include "Platform/linux/EventLoopClock.h"
+#include "Platform/linux/FreedesktopTrash.h"
+#include "Platform/linux/LinuxBundles.h"
+#include "Platform/linux/LinuxSystemVersion.h"
+#include "Platform/linux/LinuxUserDefaults.h"
+#include "Platform/linux/PortalAppearance.h"
+#include "Platform/linux/StandardErrorLog.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace zt {
+
+namespace {
+
+QString configurationFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+QString settingsDomain(const Bundle &bundle)
+{
+    return bundle.stringForKey(u"CFBundleIdentifier"_s).value_or(QString());
+}
+
+} // namespace
+
+struct NativePlatform::Services {
+    explicit Services(const QStringList &arguments)
+        : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle()))
+    {
+    }
+
+    StandardErrorLog log;
+    EventLoopClock clock;
+    LinuxBundles bundles;
+    LinuxUserDefaults userDefaults;
+    LinuxSystemVersion systemVersion;
+    AutostartLoginItems loginItems{configurationFolder(), bundles};
+    DesktopWorkspace workspace{{QString(), QDir::homePath()}, bundles};
+    PortalAppearance appearance;
+    FreedesktopTrash trash;
+    Platform platform{log,        clock,     bundles,    userDefaults, systemVersion,
+                      loginItems, workspace, appearance, trash};
+};
+
+NativePlatform::NativePlatform(const QStringList &arguments)
+    : m_services(std::make_unique<Services>(arguments))
+{
+}
+
+NativePlatform::~NativePlatform() = default;
+
+const Platform &NativePlatform::services() const
+{
+    return m_services->platform;
+}
+
+} // namespace zt
