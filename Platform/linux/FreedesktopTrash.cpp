@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/linux/FreedesktopTrash.h"
+
+#include "Platform/linux/FreedesktopTrashFolder.h"
+#include "Platform/linux/FreedesktopTrashRecord.h"
+#include "Platform/posix/SystemCalls.h"
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+#include <memory>
+#include <optional>
+#include <utility>
+
+namespace zt {
+
+namespace {
+
+constexpr const char *recordSuffix = ".trashinfo";
+
+std::optional<std::string> canonicalPath(const std::string &path) {
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
+                                                               &std::free);
+    if (!resolved)
+        return std::nullopt;
+    return std::string(resolved.get());
+}
+
+std::string parentOf(const std::string &path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+// What two folders share exactly when an item can be renamed from one to the other: the mount, and
+// on file systems with subvolumes the device.
+using Volume = std::pair<std::uint64_t, std::uint64_t>;
+
+std::optional<Volume> volumeOf(const std::string &path) {
+    struct statx status = {};
+    if (::statx(AT_FDCWD, path.c_str(), AT_SYMLINK_NOFOLLOW, STATX_MNT_ID, &status) != 0)
+        return std::nullopt;
+    const std::uint64_t device =
+        static_cast<std::uint64_t>(status.stx_dev_major) << 32U | status.stx_dev_minor;
+    return Volume(status.stx_mnt_id, device);
+}
+
+std::string homeFolder() {
+    if (const char *home = std::getenv("HOME"); home && home[0] == '/')
+        return home;
+    std::array<char, 16 * 1024> buffer = {};
+    passwd entry = {};
+    passwd *found = nullptr;
+    if (::getpwuid_r(::geteuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found)
+        return found->pw_dir;
+    return "/";
+}
+
+// Renames the item into the Trash. Moving a folder changes its entry "..", which takes the right
+// to write to it; a read-only folder of the user's own gets that right for the moment.
+bool renameIntoTrash(int parent, const std::string &name, const struct stat &status, int files,
+                     const std::string &newName) {
+    if (renameWithoutReplacing(parent, name.c_str(), files, newName.c_str()))
+        return true;
+    if (errno != EACCES || !S_ISDIR(status.st_mode) || (status.st_mode & S_IWUSR) != 0)
+        return false;
+    const mode_t mode = status.st_mode & 07777U;
+    if (::fchmodat(parent, name.c_str(), mode | S_IWUSR, AT_SYMLINK_NOFOLLOW) != 0) {
+        errno = EACCES;
+        return false;
+    }
+    const bool renamed = renameWithoutReplacing(parent, name.c_str(), files, newName.c_str());
+    const int saved = errno;
+    static_cast<void>(renamed ? ::fchmodat(files, newName.c_str(), mode, AT_SYMLINK_NOFOLLOW)
+                              : ::fchmodat(parent, name.c_str(), mode, AT_SYMLINK_NOFOLLOW));
+    errno = saved;
+    return renamed;
+}
+
+// Makes the record under the first free name and answers that name; the record is on its medium
+// when this returns, so that no crash leaves an item in the Trash without a record.
+Result<std::string> writeRecord(const TrashFolder &trash, const std::string &name,
+                                const std::string &originalPath, unsigned &attempt) {
+    for (;; ++attempt) {
+        std::string newName = nameInTrash(name, attempt);
+        const std::string recordName = newName + recordSuffix;
+        const std::string recordPath = trash.path + "/info/" + recordName;
+        const UniqueFd record = openAt(trash.records.get(), recordName.c_str(),
+                                       O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+        if (!record && errno == EEXIST)
+            continue;
+        if (!record)
+            return Error::fromErrno("create", recordPath);
+        if (writeFully(record.get(), trashRecord(originalPath, std::time(nullptr))) &&
+            flushToMedium(record.get()) && flushToMedium(trash.records.get()))
+            return newName;
+        const int code = errno;
+        static_cast<void>(::unlinkat(trash.records.get(), recordName.c_str(), 0));
+        return Error::fromErrno("write", recordPath, code);
+    }
+}
+
+} // namespace
+
+Result<std::string> volumeTopDirectory(const std::string &folder) {
+    const std::optional<Volume> volume = volumeOf(folder);
+    if (!volume)
+        return Error::fromErrno("examine", folder);
+    std::string top = folder;
+    while (top != "/") {
+        const std::string parent = parentOf(top);
+        if (volumeOf(parent) != volume)
+            break;
+        top = parent;
+    }
+    return top;
+}
+
+struct FreedesktopTrash::Item {
+    std::string folder; // canonical, so that the record tells the true origin
+    std::string name;
+    std::string topDirectory;
+    UniqueFd folderDescriptor;
+    struct stat status = {};
+
+    std::string path() const { return folder == "/" ? '/' + name : folder + '/' + name; }
+
+    // The path as it stands in a record of this Trash.
+    std::string recordedPath(const TrashFolder &trash) const {
+        if (trash.topDirectory.empty())
+            return path();
+        return path().substr(topDirectory == "/" ? 1 : topDirectory.size() + 1);
+    }
+};
+
+FreedesktopTrash::Roots FreedesktopTrash::rootsOfThisUser() {
+    Roots roots;
+    roots.user = ::geteuid();
+    const char *dataHome = std::getenv("XDG_DATA_HOME");
+    // A relative path there is invalid and counts as unset.
+    roots.dataHome = dataHome && dataHome[0] == '/' ? dataHome : homeFolder() + "/.local/share";
+    return roots;
+}
+
+FreedesktopTrash::FreedesktopTrash(Roots roots) : m_roots(std::move(roots)) {}
+
+Result<FreedesktopTrash::Item> FreedesktopTrash::findItem(const std::string &path) const {
+    const std::size_t end = path.find_last_not_of('/');
+    if (path.empty() || path[0] != '/' || end == std::string::npos)
+        return Error{"move to the Trash", path, "not the absolute path of an item", EINVAL};
+    const std::string trimmed = path.substr(0, end + 1);
+    Item item;
+    item.name = trimmed.substr(trimmed.rfind('/') + 1);
+    if (item.name == "." || item.name == "..")
+        return Error{"move to the Trash", path, "not the name of an item", EINVAL};
+    const std::optional<std::string> folder = canonicalPath(parentOf(trimmed));
+    if (!folder)
+        return Error::fromErrno("find", parentOf(trimmed));
+    item.folder = *folder;
+    item.folderDescriptor = openAt(AT_FDCWD, item.folder.c_str(), O_PATH | O_DIRECTORY);
+    if (!item.folderDescriptor)
+        return Error::fromErrno("open", item.folder);
+    const std::optional<struct stat> status =
+        statusAt(item.folderDescriptor.get(), item.name.c_str());
+    if (!status)
+        return Error::fromErrno("find", path);
+    item.status = *status;
+    Result<std::string> top = m_roots.topDirectoryOf(item.folder);
+    if (!top)
+        return top.error();
+    item.topDirectory = *std::move(top);
+    return item;
+}
+
+bool FreedesktopTrash::isOnHomeVolume(const Item &item) const {
+    // The data folder may still have to be made: its nearest existing parent tells the volume.
+    for (std::string folder = m_roots.dataHome; !folder.empty(); folder = parentOf(folder)) {
+        if (const std::optional<std::string> canonical = canonicalPath(folder)) {
+            const Result<std::string> top = m_roots.topDirectoryOf(*canonical);
+            return top && *top == item.topDirectory;
+        }
+        if (folder == "/")
+            break;
+    }
+    return false;
+}
+
+Result<TrashFolder> FreedesktopTrash::openTrashOnVolumeOf(const Item &item) const {
+    std::optional<Error> homeError;
+    if (isOnHomeVolume(item)) {
+        Result<TrashFolder> trash = openHomeTrash(m_roots.dataHome);
+        if (trash)
+            return trash;
+        homeError = trash.error();
+    }
+    if (Result<TrashFolder> trash = openSharedVolumeTrash(item.topDirectory, m_roots.user))
+        return trash;
+    Result<TrashFolder> trash = openPrivateVolumeTrash(item.topDirectory, m_roots.user);
+    // Where the home Trash should have served, its failure is the one that explains.
+    if (!trash && homeError)
+        return *homeError;
+    return trash;
+}
+
+Result<std::string> FreedesktopTrash::moveToTrash(const std::string &path) {
+    const Result<Item> item = findItem(path);
+    if (!item)
+        return item.error();
+    const Result<TrashFolder> trash = openTrashOnVolumeOf(*item);
+    if (!trash)
+        return trash.error();
+    for (unsigned attempt = 1;; ++attempt) {
+        const Result<std::string> newName =
+            writeRecord(*trash, item->name, item->recordedPath(*trash), attempt);
+        if (!newName)
+            return newName.error();
+        if (renameIntoTrash(item->folderDescriptor.get(), item->name, item->status,
+                            trash->files.get(), *newName))
+            return trash->path + "/files/" + *newName;
+        const int code = errno;
+        static_cast<void>(::unlinkat(trash->records.get(), (*newName + recordSuffix).c_str(), 0));
+        // A file without a record holds the name: another one is tried.
+        if (code != EEXIST)
+            return Error::fromErrno("move to the Trash", path, code);
+    }
+}
+
+} // namespace zt

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/linux/FreedesktopTrashFolder.h"
+
+#include "Platform/posix/SystemCalls.h"
+
+#include <sys/stat.h>
+
+#include <optional>
+
+namespace zt {
+
+namespace {
+
+constexpr int folderFlags = O_RDONLY | O_DIRECTORY;
+
+// Makes the folder when it is missing and opens it; a link is not followed.
+UniqueFd makeAndOpen(int parent, const char *name) {
+    if (::mkdirat(parent, name, S_IRWXU) != 0 && errno != EEXIST)
+        return {};
+    return openAt(parent, name, folderFlags | O_NOFOLLOW);
+}
+
+// Makes the folder with all its missing parents.
+Result<void> makeFolders(const std::string &path) {
+    for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
+        const std::string folder = path.substr(0, end);
+        if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST)
+            return Error::fromErrno("make folder", folder);
+        if (end == std::string::npos)
+            return {};
+    }
+}
+
+Result<TrashFolder> openFoldersOfTrash(const UniqueFd &trash, std::string path,
+                                       std::string topDirectory) {
+    UniqueFd files = makeAndOpen(trash.get(), "files");
+    if (!files)
+        return Error::fromErrno("open", path + "/files");
+    UniqueFd records = makeAndOpen(trash.get(), "info");
+    if (!records)
+        return Error::fromErrno("open", path + "/info");
+    return TrashFolder{std::move(path), std::move(topDirectory), std::move(files),
+                       std::move(records)};
+}
+
+Result<TrashFolder> openOwnTrash(int parent, const std::string &name, std::string path,
+                                 const std::string &topDirectory, uid_t user) {
+    const UniqueFd trash = makeAndOpen(parent, name.c_str());
+    if (!trash)
+        return Error::fromErrno("open", path);
+    const std::optional<struct stat> status = statusOf(trash.get());
+    if (!status)
+        return Error::fromErrno("open", path);
+    if (status->st_uid != user)
+        return Error{"use", path, "it belongs to another user", EPERM};
+    return openFoldersOfTrash(trash, std::move(path), topDirectory);
+}
+
+std::string joined(const std::string &folder, const std::string &name) {
+    return folder.ends_with('/') ? folder + name : folder + '/' + name;
+}
+
+} // namespace
+
+Result<TrashFolder> openHomeTrash(const std::string &dataHome) {
+    std::string path = joined(dataHome, "Trash");
+    if (Result<void> made = makeFolders(path); !made)
+        return made.error();
+    const UniqueFd trash = openAt(AT_FDCWD, path.c_str(), folderFlags);
+    if (!trash)
+        return Error::fromErrno("open", path);
+    return openFoldersOfTrash(trash, std::move(path), {});
+}
+
+Result<TrashFolder> openSharedVolumeTrash(const std::string &topDirectory, uid_t user) {
+    const std::string sharedPath = joined(topDirectory, ".Trash");
+    const UniqueFd shared = openAt(AT_FDCWD, sharedPath.c_str(), folderFlags | O_NOFOLLOW);
+    if (!shared)
+        return Error::fromErrno("open", sharedPath);
+    const std::optional<struct stat> status = statusOf(shared.get());
+    if (!status)
+        return Error::fromErrno("open", sharedPath);
+    if ((status->st_mode & S_ISVTX) == 0)
+        return Error{"use", sharedPath, "it lacks the sticky bit", EPERM};
+    const std::string name = std::to_string(user);
+    return openOwnTrash(shared.get(), name, joined(sharedPath, name), topDirectory, user);
+}
+
+Result<TrashFolder> openPrivateVolumeTrash(const std::string &topDirectory, uid_t user) {
+    const UniqueFd top = openAt(AT_FDCWD, topDirectory.c_str(), folderFlags);
+    if (!top)
+        return Error::fromErrno("open", topDirectory);
+    const std::string name = ".Trash-" + std::to_string(user);
+    return openOwnTrash(top.get(), name, joined(topDirectory, name), topDirectory, user);
+}
+
+} // namespace zt

@@ -1,0 +1,37 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// The folders in which trashed items and their records are kept.
+
+#include "Platform/Result.h"
+#include "Platform/posix/UniqueFd.h"
+
+#include <sys/types.h>
+
+#include <string>
+
+namespace zt {
+
+// An open Trash: its two folders exist and are open.
+struct TrashFolder {
+    std::string path;         // of the Trash itself, absolute
+    std::string topDirectory; // the volume's top folder; empty for the home Trash
+    UniqueFd files;
+    UniqueFd records;
+};
+
+// Each of these makes what is missing, for the user alone, and opens it. Thread: any.
+
+// "Trash" in the user's data folder, which is made with its parents.
+Result<TrashFolder> openHomeTrash(const std::string &dataHome);
+
+// "$top/.Trash/$user", the place that an administrator has prepared for all users. Fails unless
+// .Trash is a real folder with the sticky bit, for anyone could put another there otherwise.
+Result<TrashFolder> openSharedVolumeTrash(const std::string &topDirectory, uid_t user);
+
+// "$top/.Trash-$user". Fails when it belongs to someone else.
+Result<TrashFolder> openPrivateVolumeTrash(const std::string &topDirectory, uid_t user);
+
+} // namespace zt

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/posix/SystemCalls.h"
+
+#include <cstdio> // renameat2
+
+namespace zt {
+
+void UniqueFd::reset(int descriptor) {
+    if (m_descriptor >= 0) {
+        const int saved = errno;
+        // Not repeated: after an interrupted close the descriptor is gone all the same.
+        ::close(m_descriptor);
+        errno = saved;
+    }
+    m_descriptor = descriptor;
+}
+
+UniqueFd openAt(int folder, const char *name, int flags, mode_t mode) {
+    return UniqueFd(
+        retryInterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, mode); }));
+}
+
+ssize_t readSome(int descriptor, char *bytes, std::size_t size) {
+    return retryInterrupted([&] { return ::read(descriptor, bytes, size); });
+}
+
+ssize_t readFully(int descriptor, char *bytes, std::size_t size) {
+    std::size_t done = 0;
+    while (done < size) {
+        const ssize_t count = readSome(descriptor, bytes + done, size - done);
+        if (count < 0)
+            return -1;
+        if (count == 0)
+            break;
+        done += static_cast<std::size_t>(count);
+    }
+    return static_cast<ssize_t>(done);
+}
+
+bool writeFully(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count =
+            retryInterrupted([&] { return ::write(descriptor, bytes.data(), bytes.size()); });
+        if (count < 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+std::optional<struct stat> statusAt(int folder, const char *name) {
+    struct stat status = {};
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return std::nullopt;
+    return status;
+}
+
+std::optional<struct stat> statusOf(int descriptor) {
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0)
+        return std::nullopt;
+    return status;
+}
+
+bool renameWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to) {
+    if (::renameat2(fromFolder, from, toFolder, to, RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    if (statusAt(toFolder, to)) {
+        errno = EEXIST;
+        return false;
+    }
+    return errno == ENOENT && ::renameat(fromFolder, from, toFolder, to) == 0;
+}
+
+bool exchangeNames(int firstFolder, const char *first, int secondFolder, const char *second) {
+    if (::renameat2(firstFolder, first, secondFolder, second, RENAME_EXCHANGE) == 0)
+        return true;
+    if (errno == ENOSYS)
+        errno = EINVAL;
+    return false;
+}
+
+bool flushToMedium(int descriptor) {
+    return retryInterrupted([&] { return ::fsync(descriptor); }) == 0;
+}
+
+bool flushFileSystem(int descriptor) {
+    return retryInterrupted([&] { return ::syncfs(descriptor); }) == 0;
+}
+
+} // namespace zt
