@@ -7,16 +7,14 @@
 
 namespace zt {
 
-std::optional<QString> Bundle::stringForKey(const QString &key) const
-{
+std::optional<QString> Bundle::stringForKey(const QString &key) const {
     const QVariant value = m_layout.information.value(key);
     if (value.metaType() != QMetaType::fromType<QString>())
         return std::nullopt;
     return value.toString();
 }
 
-std::optional<QString> Bundle::pathForResource(const QString &name, const QString &type) const
-{
+std::optional<QString> Bundle::pathForResource(const QString &name, const QString &type) const {
     if (name.isEmpty() || m_layout.resourcesPath.isEmpty())
         return std::nullopt;
     const QString fileName = type.isEmpty() ? name : name + u'.' + type;

@@ -14,8 +14,7 @@ const Platform *installedPlatform = nullptr;
 
 } // namespace
 
-const Platform &currentPlatform()
-{
+const Platform &currentPlatform() {
     if (!installedPlatform) {
         std::fputs("currentPlatform() was called before a platform was installed\n", stderr);
         std::abort();
@@ -23,13 +22,11 @@ const Platform &currentPlatform()
     return *installedPlatform;
 }
 
-ScopedPlatform::ScopedPlatform(const Platform &platform) : m_previous(installedPlatform)
-{
+ScopedPlatform::ScopedPlatform(const Platform &platform) : m_previous(installedPlatform) {
     installedPlatform = &platform;
 }
 
-ScopedPlatform::~ScopedPlatform()
-{
+ScopedPlatform::~ScopedPlatform() {
     installedPlatform = m_previous;
 }
 

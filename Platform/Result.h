@@ -25,8 +25,7 @@ struct Error {
     int code = 0;
 
     // Takes the reason from an errno value; call it before anything else can change errno.
-    static Error fromErrno(std::string operation, std::string object, int code = errno)
-    {
+    static Error fromErrno(std::string operation, std::string object, int code = errno) {
         return {std::move(operation), std::move(object), std::generic_category().message(code),
                 code};
     }

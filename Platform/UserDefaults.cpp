@@ -9,8 +9,7 @@ namespace zt {
 
 namespace {
 
-bool readsAsTrue(const QString &text)
-{
+bool readsAsTrue(const QString &text) {
     const auto first = std::find_if(text.begin(), text.end(), [](QChar c) {
         return !c.isSpace() && c != u'+' && c != u'-' && c != u'0';
     });
@@ -19,8 +18,7 @@ bool readsAsTrue(const QString &text)
 
 } // namespace
 
-bool UserDefaults::boolForKey(const QString &key) const
-{
+bool UserDefaults::boolForKey(const QString &key) const {
     const std::optional<QVariant> value = objectForKey(key);
     if (!value)
         return false;
@@ -37,8 +35,7 @@ bool UserDefaults::boolForKey(const QString &key) const
     }
 }
 
-std::optional<QString> UserDefaults::stringForKey(const QString &key) const
-{
+std::optional<QString> UserDefaults::stringForKey(const QString &key) const {
     const std::optional<QVariant> value = objectForKey(key);
     if (!value)
         return std::nullopt;

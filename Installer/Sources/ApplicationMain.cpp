@@ -13,16 +13,14 @@
 
 namespace {
 
-bool hasDisplay()
-{
+bool hasDisplay() {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
 } // namespace
 
-int applicationMain(int argumentCount, char **argumentVector)
-{
+int applicationMain(int argumentCount, char **argumentVector) {
     if (!hasDisplay()) {
         std::fputs("VelmoraInstaller: there is no screen to show a window on. Start it from a "
                    "desktop session, or set DISPLAY.\n",

@@ -14,8 +14,7 @@ constexpr int largestUsefulSize = 512;
 
 } // namespace
 
-std::optional<QIcon> loadIcon(const QString &path)
-{
+std::optional<QIcon> loadIcon(const QString &path) {
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     if (!reader.canRead())

@@ -5,19 +5,16 @@
 
 #include <QPainter>
 
-IconView::IconView(QWidget *parent) : QWidget(parent)
-{
+IconView::IconView(QWidget *parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-void IconView::setIcon(const QIcon &icon)
-{
+void IconView::setIcon(const QIcon &icon) {
     m_icon = icon;
     update();
 }
 
-void IconView::paintEvent(QPaintEvent *)
-{
+void IconView::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     m_icon.paint(&painter, rect());
 }

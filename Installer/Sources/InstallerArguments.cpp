@@ -17,16 +17,14 @@ namespace {
 
 std::optional<QString> argumentOrInformation(const QVariantMap &arguments, const QString &key,
                                              const std::optional<zt::Bundle> &product,
-                                             const QString &informationKey)
-{
+                                             const QString &informationKey) {
     if (auto given = stringArgument(arguments, key))
         return given;
     return product ? product->stringForKey(informationKey) : std::nullopt;
 }
 
 QString destinationFor(const QVariantMap &arguments, const DestinationRules &rules,
-                       const QString &source)
-{
+                       const QString &source) {
     auto destination = stringArgument(arguments, ZTInstallerKeyDestinationPath);
     if (!destination) {
         destination = rules.preferredDestination(
@@ -37,8 +35,7 @@ QString destinationFor(const QVariantMap &arguments, const DestinationRules &rul
     return appendingPathComponent(rules.applicationsDirectory(), lastPathComponent(source));
 }
 
-QString insideWrapper(const QString &destination, const QString &wrapper)
-{
+QString insideWrapper(const QString &destination, const QString &wrapper) {
     const QString parent = deletingLastPathComponent(destination);
     const QString wrapperName = lastPathComponent(wrapper);
     if (lastPathComponent(parent) == wrapperName)
@@ -49,14 +46,12 @@ QString insideWrapper(const QString &destination, const QString &wrapper)
 
 } // namespace
 
-std::optional<QString> stringArgument(const QVariantMap &arguments, const QString &key)
-{
+std::optional<QString> stringArgument(const QVariantMap &arguments, const QString &key) {
     const QVariant value = arguments.value(key);
     return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
 }
 
-QVariantMap parse(const QStringList &argumentVector)
-{
+QVariantMap parse(const QStringList &argumentVector) {
     ZTLog("arguments: %@", argumentVector);
     QVariantMap arguments;
     QString key = u""_s;
@@ -72,8 +67,7 @@ QVariantMap parse(const QStringList &argumentVector)
     return arguments;
 }
 
-bool completeSourcePath(QVariantMap &arguments, const QString &installerBundlePath)
-{
+bool completeSourcePath(QVariantMap &arguments, const QString &installerBundlePath) {
     if (arguments.contains(ZTInstallerKeySourcePath))
         return true;
     const QString suffix = u".app"_s;
@@ -88,8 +82,7 @@ bool completeSourcePath(QVariantMap &arguments, const QString &installerBundlePa
     return true;
 }
 
-bool completeProductName(QVariantMap &arguments)
-{
+bool completeProductName(QVariantMap &arguments) {
     if (arguments.contains(ZTInstallerKeyProductName))
         return true;
     const QString source = stringArgument(arguments, ZTInstallerKeySourcePath).value_or(QString());
@@ -101,21 +94,18 @@ bool completeProductName(QVariantMap &arguments)
 }
 
 std::optional<QString> version(const QVariantMap &arguments,
-                               const std::optional<zt::Bundle> &product)
-{
+                               const std::optional<zt::Bundle> &product) {
     return argumentOrInformation(arguments, ZTInstallerKeyVersion, product,
                                  u"CFBundleShortVersionString"_s);
 }
 
 std::optional<QString> minimumSystemVersion(const QVariantMap &arguments,
-                                            const std::optional<zt::Bundle> &product)
-{
+                                            const std::optional<zt::Bundle> &product) {
     return argumentOrInformation(arguments, ZTInstallerKeyMinSystemVersion, product,
                                  u"LSMinimumSystemVersion"_s);
 }
 
-void completeDestination(QVariantMap &arguments, const DestinationRules &rules)
-{
+void completeDestination(QVariantMap &arguments, const DestinationRules &rules) {
     const QString source = stringArgument(arguments, ZTInstallerKeySourcePath).value_or(QString());
     QString destination = destinationFor(arguments, rules, source);
     if (const auto wrapper = stringArgument(arguments, ZTInstallerKeyWrapperPath)) {
@@ -129,15 +119,13 @@ void completeDestination(QVariantMap &arguments, const DestinationRules &rules)
     arguments[ZTInstallerKeyDestinationPath] = destination;
 }
 
-void completeDocumentation(QVariantMap &arguments)
-{
+void completeDocumentation(QVariantMap &arguments) {
     const auto path = stringArgument(arguments, ZTInstallerKeyDocumentationPath);
     if (path && !QFileInfo::exists(*path))
         arguments.remove(ZTInstallerKeyDocumentationPath);
 }
 
-bool completeProductCodes(QVariantMap &arguments, const std::optional<zt::Bundle> &product)
-{
+bool completeProductCodes(QVariantMap &arguments, const std::optional<zt::Bundle> &product) {
     if (arguments.contains(ZTInstallerKeyProductCode))
         return true;
     const auto signature =
@@ -148,8 +136,7 @@ bool completeProductCodes(QVariantMap &arguments, const std::optional<zt::Bundle
     return true;
 }
 
-void completeQuitCodes(QVariantMap &arguments)
-{
+void completeQuitCodes(QVariantMap &arguments) {
     arguments[ZTInstallerKeyQuitCode] = arguments.value(ZTInstallerKeyQuitCode).toStringList() +
                                         arguments.value(ZTInstallerKeyProductCode).toStringList();
     ZTLog("Updated arguments: %@", arguments);

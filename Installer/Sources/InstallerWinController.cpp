@@ -17,9 +17,9 @@
 #include <QTabBar>
 
 InstallerWinController::InstallerWinController(Environment environment)
-    : m_environment(std::move(environment)), m_platform(m_environment.platform),
-      m_platformPalette(QApplication::palette())
-{
+    : m_environment(std::move(environment))
+    , m_platform(m_environment.platform)
+    , m_platformPalette(QApplication::palette()) {
     followAppearance();
     m_ui.setupUi(&m_window);
     m_window.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -48,18 +48,15 @@ InstallerWinController::InstallerWinController(Environment environment)
     connect(escape, &QShortcut::activated, m_ui.cancelButton, &QPushButton::click);
 }
 
-InstallerWinController::~InstallerWinController()
-{
+InstallerWinController::~InstallerWinController() {
     m_platform.appearance.setChangeListener({});
 }
 
-bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() const
-{
+bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() const {
     return true;
 }
 
-void InstallerWinController::selectTab(int pageIndex)
-{
+void InstallerWinController::selectTab(int pageIndex) {
     m_ui.tabView->setCurrentIndex(pageIndex);
     const bool mainPage = pageIndex != ReadMePage;
     m_ui.installButton->setText(localizedString(mainPage ? "Install" : "Continue"));
@@ -67,8 +64,7 @@ void InstallerWinController::selectTab(int pageIndex)
         m_ui.cancelButton->setText(localizedString(mainPage ? "Go Back" : "Cancel"));
 }
 
-void InstallerWinController::showSetupError(const QString &message)
-{
+void InstallerWinController::showSetupError(const QString &message) {
     ZTLog("%@", message);
     showFinalMessage(message.toUtf8().constData());
     // The title is still the format with its placeholder when the product has no name yet.
@@ -77,18 +73,15 @@ void InstallerWinController::showSetupError(const QString &message)
     showWindow();
 }
 
-std::optional<QString> InstallerWinController::argument(const QString &key) const
-{
+std::optional<QString> InstallerWinController::argument(const QString &key) const {
     return InstallerArguments::stringArgument(m_arguments, key);
 }
 
-QString InstallerWinController::productName() const
-{
+QString InstallerWinController::productName() const {
     return argument(ZTInstallerKeyProductName).value_or(QString());
 }
 
-void InstallerWinController::followAppearance()
-{
+void InstallerWinController::followAppearance() {
     // The framework's own platform themes follow the desktop's light or dark setting in some
     // desktops only; where theirs already fits, it stays.
     const auto apply = [this] {
@@ -104,8 +97,7 @@ void InstallerWinController::followAppearance()
     });
 }
 
-void InstallerWinController::colorMessageField()
-{
+void InstallerWinController::colorMessageField() {
     const QColor onLight = QColor::fromRgb(0xb3, 0x14, 0x1f);
     const QColor onDark = QColor::fromRgb(0xff, 0x8a, 0x80);
     QPalette palette;
@@ -114,8 +106,7 @@ void InstallerWinController::colorMessageField()
     m_ui.messageField->setPalette(palette);
 }
 
-void InstallerWinController::announce(QWidget *field)
-{
+void InstallerWinController::announce(QWidget *field) {
     QAccessibleEvent event(field, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
 }

@@ -25,8 +25,7 @@ constexpr float longestQuitDelay = 2'000'000; // seconds
 
 } // namespace
 
-void InstallerWinController::installationFinished(const std::optional<QString> &message)
-{
+void InstallerWinController::installationFinished(const std::optional<QString> &message) {
     if (message) {
         colorMessageField();
         m_ui.messageField->setText(*message);
@@ -51,8 +50,7 @@ void InstallerWinController::installationFinished(const std::optional<QString> &
     applyTimedQuit();
 }
 
-void InstallerWinController::applyTimedQuit()
-{
+void InstallerWinController::applyTimedQuit() {
     const auto text = argument(ZTInstallerCompletionQuit);
     if (!text)
         return;
@@ -65,8 +63,7 @@ void InstallerWinController::applyTimedQuit()
     }
 }
 
-void InstallerWinController::showFinalMessage(const char *messageKey)
-{
+void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.cancelButton->hide();
     m_ui.installButton->setText(localizedString("OK"));
     m_ui.pathField->hide();
@@ -78,14 +75,12 @@ void InstallerWinController::showFinalMessage(const char *messageKey)
     announce(m_ui.introField);
 }
 
-void InstallerWinController::playDoneSound()
-{
+void InstallerWinController::playDoneSound() {
     if (argument(ZTInstallerCompletionSound) == u"YES"_s)
         m_platform.workspace.beep();
 }
 
-void InstallerWinController::openDocumentation()
-{
+void InstallerWinController::openDocumentation() {
     const auto path = argument(ZTInstallerKeyDocumentationPath);
     if (!path) {
         ZTLog("documentation path missing");

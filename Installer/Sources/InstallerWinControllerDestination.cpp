@@ -19,13 +19,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString expandingTilde(const QString &path)
-{
+QString expandingTilde(const QString &path) {
     return path == u'~' || path.startsWith(u"~/") ? QDir::homePath() + path.mid(1) : path;
 }
 
-QString abbreviatingWithTilde(const QString &path)
-{
+QString abbreviatingWithTilde(const QString &path) {
     const QString home = QDir::homePath();
     if (path == home)
         return u"~"_s;
@@ -35,8 +33,7 @@ QString abbreviatingWithTilde(const QString &path)
 } // namespace
 
 std::optional<QString>
-InstallerWinController::findPreferredDestinationFor(const QString &productName) const
-{
+InstallerWinController::findPreferredDestinationFor(const QString &productName) const {
     const auto loginItem = autoLaunchPathFor(productName);
     ZTLog("autolaunch = %@", loginItem);
     if (loginItem && !isInUnsupportedFolder(loginItem))
@@ -44,8 +41,7 @@ InstallerWinController::findPreferredDestinationFor(const QString &productName) 
     return std::nullopt;
 }
 
-std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &productName) const
-{
+std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &productName) const {
     const auto items = m_platform.loginItems.resolvedPaths();
     if (!items)
         return std::nullopt;
@@ -56,8 +52,7 @@ std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &
     return std::nullopt;
 }
 
-bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> &path) const
-{
+bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> &path) const {
     if (!path)
         return false;
     const bool developerBuild = path->contains(u"/build") && path->contains(u"/wex/");
@@ -66,8 +61,7 @@ bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> 
     return developerBuild || distributionDisk || trash || path->startsWith(u"/private/var/");
 }
 
-QString InstallerWinController::applicationsDirectory() const
-{
+QString InstallerWinController::applicationsDirectory() const {
     const QStringList local =
         m_platform.workspace.applicationsFolders(zt::Workspace::Domain::Local);
     const QString system = local.isEmpty() ? QString() : expandingTilde(local.last());
@@ -81,13 +75,11 @@ QString InstallerWinController::applicationsDirectory() const
     return user && canWriteToFileOrDirectory(*user) ? *user : system;
 }
 
-bool InstallerWinController::canWriteToFileOrDirectory(const QString &path) const
-{
+bool InstallerWinController::canWriteToFileOrDirectory(const QString &path) const {
     return QFileInfo(path).isWritable();
 }
 
-bool InstallerWinController::canWriteToPath(const QString &path) const
-{
+bool InstallerWinController::canWriteToPath(const QString &path) const {
     if (QFileInfo::exists(path) && !canWriteToFileOrDirectory(path)) {
         ZTLog("Cannot write to item %@", path);
         return false;
@@ -101,13 +93,11 @@ bool InstallerWinController::canWriteToPath(const QString &path) const
     return false;
 }
 
-bool InstallerWinController::canWriteToFile(const QString &path) const
-{
+bool InstallerWinController::canWriteToFile(const QString &path) const {
     return QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
-bool InstallerWinController::canWriteToDirectory(const QString &folder) const
-{
+bool InstallerWinController::canWriteToDirectory(const QString &folder) const {
     const auto probePath = [&folder](unsigned number) {
         return appendingPathComponent(folder, ZTFormat("temp-%X", number));
     };
@@ -124,13 +114,11 @@ bool InstallerWinController::canWriteToDirectory(const QString &folder) const
     return true;
 }
 
-QString InstallerWinController::localizedPath(const QString &path) const
-{
+QString InstallerWinController::localizedPath(const QString &path) const {
     return recursiveLocalizedPath(abbreviatingWithTilde(path));
 }
 
-QString InstallerWinController::recursiveLocalizedPath(const QString &path) const
-{
+QString InstallerWinController::recursiveLocalizedPath(const QString &path) const {
     if (path.size() < 3)
         return path;
     const QString name = m_platform.workspace.displayName(expandingTilde(path));

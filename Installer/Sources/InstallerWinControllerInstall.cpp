@@ -15,8 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-void InstallerWinController::install()
-{
+void InstallerWinController::install() {
     if (m_finished) {
         QApplication::quit();
         return;
@@ -30,8 +29,7 @@ void InstallerWinController::install()
     m_installThread = std::jthread([this](const std::stop_token &stop) { installThread(stop); });
 }
 
-void InstallerWinController::cancel()
-{
+void InstallerWinController::cancel() {
     if (m_arguments.contains(ZTInstallerKeyReadMePath) &&
         m_ui.tabView->currentIndex() == MainPage) {
         selectTab(ReadMePage);
@@ -40,13 +38,11 @@ void InstallerWinController::cancel()
     QApplication::quit();
 }
 
-void InstallerWinController::animateProgress(Progress progress)
-{
+void InstallerWinController::animateProgress(Progress progress) {
     m_ui.progressIndicator->setVisible(progress == Progress::Running);
 }
 
-void InstallerWinController::installThread(const std::stop_token &stop)
-{
+void InstallerWinController::installThread(const std::stop_token &stop) {
     const auto onMainThread = [this](auto operation) {
         QMetaObject::invokeMethod(this, std::move(operation), Qt::QueuedConnection);
     };
@@ -59,8 +55,7 @@ void InstallerWinController::installThread(const std::stop_token &stop)
 }
 
 std::optional<QString>
-InstallerWinController::installMyselfInDestination(const std::stop_token &stop)
-{
+InstallerWinController::installMyselfInDestination(const std::stop_token &stop) {
     const auto bytes = [this](const QString &key) {
         return QFile::encodeName(argument(key).value_or(QString())).toStdString();
     };
@@ -74,20 +69,21 @@ InstallerWinController::installMyselfInDestination(const std::stop_token &stop)
                 .log = [this](std::string_view line) { m_platform.log.writeLine(line); },
                 .noteFileSystemChanged =
                     [this](const std::string &path) {
-                        m_platform.workspace.noteFileSystemChanged(
-                            QFile::decodeName(path.c_str()));
+                        m_platform.workspace.noteFileSystemChanged(QFile::decodeName(path.c_str()));
                     },
                 .stop = stop});
     switch (result) {
-    case InstallResult::Success: return std::nullopt;
-    case InstallResult::TrashFailed: return u"Could not delete existing copy."_s;
-    case InstallResult::CopyFailed: break;
+    case InstallResult::Success:
+        return std::nullopt;
+    case InstallResult::TrashFailed:
+        return u"Could not delete existing copy."_s;
+    case InstallResult::CopyFailed:
+        break;
     }
     return u"Installation failed."_s;
 }
 
-QString InstallerWinController::failureMessage(const QString &messageKey) const
-{
+QString InstallerWinController::failureMessage(const QString &messageKey) const {
     QString message = ZTFormat(localizedString(messageKey.toUtf8().constData()), productName());
     // A wrapped product cannot be installed by copying one item.
     if (!m_arguments.contains(ZTInstallerKeyWrapperPath)) {

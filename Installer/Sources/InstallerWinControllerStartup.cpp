@@ -32,8 +32,7 @@ const QUrl softwareArchive(u"https://www.velmora.example/downloads/archive/"_s);
 
 } // namespace
 
-void InstallerWinController::awakeFromNib()
-{
+void InstallerWinController::awakeFromNib() {
     if (shouldRedirectLog(m_environment.argumentVector)) {
         m_environment.redirectStandardStreams(QDir::homePath() +
                                               u"/Library/Logs/VelmoraInstaller.log"_s);
@@ -77,13 +76,11 @@ void InstallerWinController::awakeFromNib()
         showSystemVersionAlert(version, *minimum);
 }
 
-bool InstallerWinController::completeArguments(const std::optional<zt::Bundle> &product)
-{
+bool InstallerWinController::completeArguments(const std::optional<zt::Bundle> &product) {
     InstallerArguments::completeDestination(
-        m_arguments,
-        {.preferredDestination =
-             [this](const QString &name) { return findPreferredDestinationFor(name); },
-         .applicationsDirectory = [this] { return applicationsDirectory(); }});
+        m_arguments, {.preferredDestination =
+                          [this](const QString &name) { return findPreferredDestinationFor(name); },
+                      .applicationsDirectory = [this] { return applicationsDirectory(); }});
     m_ui.pathField->setText(
         localizedPath(argument(ZTInstallerKeyDestinationPath).value_or(QString())));
     InstallerArguments::completeDocumentation(m_arguments);
@@ -93,8 +90,7 @@ bool InstallerWinController::completeArguments(const std::optional<zt::Bundle> &
     return true;
 }
 
-void InstallerWinController::fillIcon(const std::optional<zt::Bundle> &product)
-{
+void InstallerWinController::fillIcon(const std::optional<zt::Bundle> &product) {
     std::optional<QIcon> icon;
     if (const auto path = argument(ZTInstallerKeyIconPath))
         icon = loadIcon(*path);
@@ -116,8 +112,7 @@ void InstallerWinController::fillIcon(const std::optional<zt::Bundle> &product)
     QApplication::setWindowIcon(*icon);
 }
 
-void InstallerWinController::fillTexts(const std::optional<QString> &version)
-{
+void InstallerWinController::fillTexts(const std::optional<QString> &version) {
     m_ui.nameField->setText(version ? productName() + u' ' + *version : productName());
     m_ui.introField->setText(ZTFormat(m_ui.introField->text(), productName()));
     QString explanation = ZTFormat(m_ui.explanationField->text(), productName());
@@ -125,8 +120,7 @@ void InstallerWinController::fillTexts(const std::optional<QString> &version)
     if (documented) {
         explanation = ZTFormat(
             "%@ %@",
-            localizedString(
-                "If you wish to read the documentation first, click the \"?\" button."),
+            localizedString("If you wish to read the documentation first, click the \"?\" button."),
             explanation);
     }
     m_ui.explanationField->setText(explanation);
@@ -134,8 +128,7 @@ void InstallerWinController::fillTexts(const std::optional<QString> &version)
     m_ui.messageField->hide();
 }
 
-void InstallerWinController::fillReadMe()
-{
+void InstallerWinController::fillReadMe() {
     const auto path = argument(ZTInstallerKeyReadMePath);
     if (!path || !QFileInfo::exists(*path)) {
         selectTab(MainPage);
@@ -156,8 +149,7 @@ void InstallerWinController::fillReadMe()
     selectTab(ReadMePage);
 }
 
-void InstallerWinController::showWindow()
-{
+void InstallerWinController::showWindow() {
     const QScreen *screen = QApplication::primaryScreen();
     const QRect available = screen->availableGeometry();
     // Long texts and large fonts make the window taller, as far as the screen allows.
@@ -168,8 +160,7 @@ void InstallerWinController::showWindow()
     const int others = m_window.layout()->sizeHint().height() - m_ui.tabView->sizeHint().height() +
                        m_ui.progressIndicator->sizeHint().height() +
                        2 * m_ui.mainPageLayout->spacing();
-    const int height =
-        std::min(std::max(m_window.height(), contents + others), available.height());
+    const int height = std::min(std::max(m_window.height(), contents + others), available.height());
     m_window.resize(width, height);
     m_window.move(available.center() - m_window.rect().center());
     m_ui.installButton->setFocus();
@@ -179,16 +170,16 @@ void InstallerWinController::showWindow()
 }
 
 void InstallerWinController::showSystemVersionAlert(const std::optional<QString> &version,
-                                                    const QString &minimumSystemVersion)
-{
+                                                    const QString &minimumSystemVersion) {
     auto *alert = new QMessageBox(&m_window);
     alert->setAttribute(Qt::WA_DeleteOnClose);
     alert->setWindowModality(Qt::WindowModal);
     alert->setWindowTitle(m_window.windowTitle());
     alert->setTextFormat(Qt::PlainText);
-    alert->setText(ZTFormat(localizedString("%1$@ %2$@ cannot be installed on this computer because "
-                                            "it requires Mac OS X %3$@ or newer."),
-                            productName(), version, minimumSystemVersion));
+    alert->setText(
+        ZTFormat(localizedString("%1$@ %2$@ cannot be installed on this computer because "
+                                 "it requires Mac OS X %3$@ or newer."),
+                 productName(), version, minimumSystemVersion));
     alert->setInformativeText(
         ZTFormat(localizedString("To check if an older version of %@ is available for your "
                                  "computer, please visit our software archive."),
@@ -207,8 +198,7 @@ void InstallerWinController::showSystemVersionAlert(const std::optional<QString>
     alert->open();
 }
 
-void InstallerWinController::systemVersionAlertDidEnd(int returnCode)
-{
+void InstallerWinController::systemVersionAlertDidEnd(int returnCode) {
     if (returnCode == secondButtonReturnCode)
         m_platform.workspace.openUrl(softwareArchive);
     QApplication::quit();

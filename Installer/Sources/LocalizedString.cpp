@@ -5,7 +5,6 @@
 
 #include <QCoreApplication>
 
-QString localizedString(const char *key)
-{
+QString localizedString(const char *key) {
     return QCoreApplication::translate("InstallerWindow", key);
 }

@@ -11,13 +11,11 @@
 
 using namespace Qt::StringLiterals;
 
-bool shouldRedirectLog(const QStringList &argumentVector)
-{
+bool shouldRedirectLog(const QStringList &argumentVector) {
     return argumentVector.size() >= 3 && argumentVector.at(1) != u"-AppleLanguages"_s;
 }
 
-void redirectStandardStreams(const QString &path)
-{
+void redirectStandardStreams(const QString &path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);
     for (std::FILE *stream : {stdout, stderr}) {

@@ -18,8 +18,7 @@ constexpr int fewestColumns = 8;
 
 } // namespace
 
-WrappingLabel::WrappingLabel(QWidget *parent) : QLabel(parent)
-{
+WrappingLabel::WrappingLabel(QWidget *parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setWordWrap(true);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -27,16 +26,14 @@ WrappingLabel::WrappingLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(policy);
 }
 
-int WrappingLabel::heightForWidth(int width) const
-{
+int WrappingLabel::heightForWidth(int width) const {
     QTextLayout layout(displayedText(), font());
     const QMargins margins = contentsMargins();
     const qreal height = layOut(layout, width - margins.left() - margins.right());
     return static_cast<int>(std::ceil(height)) + margins.top() + margins.bottom();
 }
 
-QSize WrappingLabel::sizeHint() const
-{
+QSize WrappingLabel::sizeHint() const {
     QTextLayout layout(displayedText(), font());
     layOut(layout, fontMetrics().averageCharWidth() * preferredColumns);
     qreal widest = 0;
@@ -47,13 +44,11 @@ QSize WrappingLabel::sizeHint() const
     return {width, heightForWidth(width)};
 }
 
-QSize WrappingLabel::minimumSizeHint() const
-{
+QSize WrappingLabel::minimumSizeHint() const {
     return {fontMetrics().averageCharWidth() * fewestColumns, fontMetrics().lineSpacing()};
 }
 
-void WrappingLabel::paintEvent(QPaintEvent *)
-{
+void WrappingLabel::paintEvent(QPaintEvent *) {
     QTextLayout layout(displayedText(), font());
     const QRect area = contentsRect();
     const qreal height = layOut(layout, area.width());
@@ -65,8 +60,7 @@ void WrappingLabel::paintEvent(QPaintEvent *)
     layout.draw(&painter, QPointF(area.left(), top));
 }
 
-qreal WrappingLabel::layOut(QTextLayout &layout, int width) const
-{
+qreal WrappingLabel::layOut(QTextLayout &layout, int width) const {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(layoutDirection());
@@ -84,8 +78,7 @@ qreal WrappingLabel::layOut(QTextLayout &layout, int width) const
     return height;
 }
 
-QString WrappingLabel::displayedText() const
-{
+QString WrappingLabel::displayedText() const {
     // Messages separate their lines by carriage returns.
     QString text = QLabel::text();
     text.replace(QStringLiteral("\r\n"), QString(QChar::LineSeparator));

@@ -3,7 +3,6 @@
 
 #include "Installer/Sources/ApplicationMain.h"
 
-int main(int argc, char **argv)
-{
+int main(int argc, char **argv) {
     return applicationMain(argc, argv);
 }

@@ -19,8 +19,7 @@ namespace zt {
 
 namespace {
 
-bool isSwitchedOff(GDesktopAppInfo *entry)
-{
+bool isSwitchedOff(GDesktopAppInfo *entry) {
     if (g_desktop_app_info_get_is_hidden(entry) || !g_desktop_app_info_get_show_in(entry, nullptr))
         return true;
     const char *const enabled = "X-GNOME-Autostart-enabled";
@@ -29,8 +28,7 @@ bool isSwitchedOff(GDesktopAppInfo *entry)
 }
 
 // The program in an argument list: the first word, or behind "env" the first that sets no variable.
-const char *programIn(char *const *words)
-{
+const char *programIn(char *const *words) {
     const std::string_view first = *words;
     if (first == "env" || first.ends_with("/env")) {
         ++words;
@@ -40,8 +38,7 @@ const char *programIn(char *const *words)
     return *words;
 }
 
-std::optional<QString> programPath(GDesktopAppInfo *entry)
-{
+std::optional<QString> programPath(GDesktopAppInfo *entry) {
     const char *commandLine = g_app_info_get_commandline(G_APP_INFO(entry));
     gchar **list = nullptr;
     if (!commandLine || !g_shell_parse_argv(commandLine, nullptr, &list, nullptr))
@@ -59,8 +56,7 @@ std::optional<QString> programPath(GDesktopAppInfo *entry)
 
 // The library answers no entry at all for one that is hidden, whose program is missing or that is
 // no desktop entry; only the key file tells the first from the others.
-bool isMarkedHidden(const QByteArray &path)
-{
+bool isMarkedHidden(const QByteArray &path) {
     const GLibPointer<GKeyFile> file(g_key_file_new());
     return g_key_file_load_from_file(file.get(), path.constData(), G_KEY_FILE_NONE, nullptr) &&
            g_key_file_get_boolean(file.get(), G_KEY_FILE_DESKTOP_GROUP,
@@ -70,12 +66,10 @@ bool isMarkedHidden(const QByteArray &path)
 } // namespace
 
 AutostartLoginItems::AutostartLoginItems(QString configurationFolder, const Bundles &bundles)
-    : m_configurationFolder(std::move(configurationFolder)), m_bundles(bundles)
-{
-}
+    : m_configurationFolder(std::move(configurationFolder))
+    , m_bundles(bundles) {}
 
-std::optional<std::vector<std::optional<QString>>> AutostartLoginItems::resolvedPaths() const
-{
+std::optional<std::vector<std::optional<QString>>> AutostartLoginItems::resolvedPaths() const {
     const QDir folder(m_configurationFolder + u"/autostart"_s);
     if (!folder.isReadable())
         return std::nullopt;

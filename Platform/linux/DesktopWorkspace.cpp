@@ -20,8 +20,7 @@ namespace zt {
 
 namespace {
 
-std::optional<QString> iconPathOf(const Bundle &bundle)
-{
+std::optional<QString> iconPathOf(const Bundle &bundle) {
     for (const QString &key : {u"CFBundleIconFile"_s, u"NSIcon"_s}) {
         const auto name = bundle.stringForKey(key);
         if (!name)
@@ -35,27 +34,23 @@ std::optional<QString> iconPathOf(const Bundle &bundle)
 }
 
 // The localized name in a folder's ".directory" file, as file managers show it.
-QString folderName(const QString &path)
-{
+QString folderName(const QString &path) {
     const GLibPointer<GKeyFile> file(g_key_file_new());
     const QByteArray record = QFile::encodeName(path + u"/.directory"_s);
     if (!g_key_file_load_from_file(file.get(), record.constData(), G_KEY_FILE_NONE, nullptr))
         return {};
-    const GLibPointer<gchar> name(
-        g_key_file_get_locale_string(file.get(), G_KEY_FILE_DESKTOP_GROUP,
-                                     G_KEY_FILE_DESKTOP_KEY_NAME, nullptr, nullptr));
+    const GLibPointer<gchar> name(g_key_file_get_locale_string(
+        file.get(), G_KEY_FILE_DESKTOP_GROUP, G_KEY_FILE_DESKTOP_KEY_NAME, nullptr, nullptr));
     return QString::fromUtf8(name.get());
 }
 
 } // namespace
 
 DesktopWorkspace::DesktopWorkspace(Folders folders, const Bundles &bundles)
-    : m_folders(std::move(folders)), m_bundles(bundles)
-{
-}
+    : m_folders(std::move(folders))
+    , m_bundles(bundles) {}
 
-QIcon DesktopWorkspace::iconForFile(const QString &path)
-{
+QIcon DesktopWorkspace::iconForFile(const QString &path) {
     if (!QFileInfo::exists(path))
         return {};
     if (const auto bundle = m_bundles.bundleAtPath(path)) {
@@ -67,8 +62,7 @@ QIcon DesktopWorkspace::iconForFile(const QString &path)
     return QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
 }
 
-bool DesktopWorkspace::openFile(const QString &path)
-{
+bool DesktopWorkspace::openFile(const QString &path) {
     if (const auto bundle = m_bundles.bundleAtPath(path)) {
         return !bundle->executablePath().isEmpty() &&
                QProcess::startDetached(bundle->executablePath(), {}, m_folders.home);
@@ -76,13 +70,11 @@ bool DesktopWorkspace::openFile(const QString &path)
     return QFileInfo::exists(path) && openUrl(QUrl::fromLocalFile(path));
 }
 
-bool DesktopWorkspace::openUrl(const QUrl &url)
-{
+bool DesktopWorkspace::openUrl(const QUrl &url) {
     return g_app_info_launch_default_for_uri(url.toEncoded().constData(), nullptr, nullptr);
 }
 
-QString DesktopWorkspace::displayName(const QString &path) const
-{
+QString DesktopWorkspace::displayName(const QString &path) const {
     const QString name = QDir::cleanPath(path).section(u'/', -1);
     if (name.isEmpty())
         return u"/"_s;
@@ -94,8 +86,7 @@ QString DesktopWorkspace::displayName(const QString &path) const
     return localized.isEmpty() ? name : localized;
 }
 
-void DesktopWorkspace::noteFileSystemChanged(const QString &path)
-{
+void DesktopWorkspace::noteFileSystemChanged(const QString &path) {
     // Programs that watch folders through the kernel learn of changes by themselves. This tells
     // those that keep listings of folders that cannot be watched, such as network volumes.
     const QDBusConnection bus = QDBusConnection::sessionBus();
@@ -107,17 +98,17 @@ void DesktopWorkspace::noteFileSystemChanged(const QString &path)
     bus.send(added);
 }
 
-QStringList DesktopWorkspace::applicationsFolders(Domain domain) const
-{
+QStringList DesktopWorkspace::applicationsFolders(Domain domain) const {
     switch (domain) {
-    case Domain::Local: return {m_folders.root + u"/Applications"_s};
-    case Domain::User: return {m_folders.home + u"/Applications"_s};
+    case Domain::Local:
+        return {m_folders.root + u"/Applications"_s};
+    case Domain::User:
+        return {m_folders.home + u"/Applications"_s};
     }
     return {};
 }
 
-void DesktopWorkspace::beep()
-{
+void DesktopWorkspace::beep() {
     QApplication::beep();
 }
 

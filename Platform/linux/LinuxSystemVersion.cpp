@@ -16,14 +16,12 @@ namespace {
 // reference platform has them that first had them.
 constexpr double frameworkWithAppearances = 1671.0;
 
-std::string readTextFile(const std::string &path)
-{
+std::string readTextFile(const std::string &path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::string_view trimmed(std::string_view text)
-{
+std::string_view trimmed(std::string_view text) {
     constexpr std::string_view blanks = " \t\r\n";
     const auto first = text.find_first_not_of(blanks);
     return first == std::string_view::npos
@@ -32,8 +30,7 @@ std::string_view trimmed(std::string_view text)
 }
 
 // The value of a NAME=value line, without the quotes that the format allows around it.
-std::string_view field(std::string_view text, std::string_view name)
-{
+std::string_view field(std::string_view text, std::string_view name) {
     while (!text.empty()) {
         const auto end = std::min(text.find('\n'), text.size());
         std::string_view line = trimmed(text.substr(0, end));
@@ -49,8 +46,7 @@ std::string_view field(std::string_view text, std::string_view name)
     return {};
 }
 
-std::optional<VersionNumbers> numbersOf(std::string_view version)
-{
+std::optional<VersionNumbers> numbersOf(std::string_view version) {
     VersionNumbers numbers{};
     for (std::size_t part = 0; part < numbers.size(); ++part) {
         const auto [end, failure] =
@@ -72,8 +68,7 @@ std::optional<VersionNumbers> numbersOf(std::string_view version)
 } // namespace
 
 std::optional<VersionNumbers> parseSystemVersion(std::string_view osRelease,
-                                                 std::string_view debianVersion)
-{
+                                                 std::string_view debianVersion) {
     const std::string_view version = field(osRelease, "VERSION_ID");
     const std::string_view pointRelease = trimmed(debianVersion);
     const bool refines = !version.empty() && version.find('.') == std::string_view::npos &&
@@ -81,33 +76,28 @@ std::optional<VersionNumbers> parseSystemVersion(std::string_view osRelease,
     return numbersOf(refines ? pointRelease : version);
 }
 
-LinuxSystemVersion::LinuxSystemVersion(const std::string &root)
-{
+LinuxSystemVersion::LinuxSystemVersion(const std::string &root) {
     std::string osRelease = readTextFile(root + "/etc/os-release");
     if (osRelease.empty())
         osRelease = readTextFile(root + "/usr/lib/os-release");
     const bool debian = field(osRelease, "ID") == "debian";
-    m_numbers = parseSystemVersion(
-        osRelease, debian ? readTextFile(root + "/etc/debian_version") : std::string());
+    m_numbers = parseSystemVersion(osRelease, debian ? readTextFile(root + "/etc/debian_version")
+                                                     : std::string());
 }
 
-std::optional<std::int32_t> LinuxSystemVersion::majorVersion() const
-{
+std::optional<std::int32_t> LinuxSystemVersion::majorVersion() const {
     return m_numbers ? std::optional(m_numbers->at(0)) : std::nullopt;
 }
 
-std::optional<std::int32_t> LinuxSystemVersion::minorVersion() const
-{
+std::optional<std::int32_t> LinuxSystemVersion::minorVersion() const {
     return m_numbers ? std::optional(m_numbers->at(1)) : std::nullopt;
 }
 
-std::optional<std::int32_t> LinuxSystemVersion::bugFixVersion() const
-{
+std::optional<std::int32_t> LinuxSystemVersion::bugFixVersion() const {
     return m_numbers ? std::optional(m_numbers->at(2)) : std::nullopt;
 }
 
-std::optional<std::uint32_t> LinuxSystemVersion::packedVersion() const
-{
+std::optional<std::uint32_t> LinuxSystemVersion::packedVersion() const {
     if (!m_numbers)
         return std::nullopt;
     const auto digit = [](std::int32_t number) {
@@ -118,8 +108,7 @@ std::optional<std::uint32_t> LinuxSystemVersion::packedVersion() const
            digit(m_numbers->at(2));
 }
 
-double LinuxSystemVersion::frameworkVersion() const
-{
+double LinuxSystemVersion::frameworkVersion() const {
     return frameworkWithAppearances;
 }
 

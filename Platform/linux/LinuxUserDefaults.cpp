@@ -14,8 +14,7 @@ namespace zt {
 
 namespace {
 
-QVariant argumentValue(const QString &text)
-{
+QVariant argumentValue(const QString &text) {
     if (!text.isEmpty() && QStringView(u"{(<\"").contains(text.front())) {
         if (Result<QVariant> value = parsePropertyList(text.toUtf8()))
             return *value;
@@ -25,8 +24,7 @@ QVariant argumentValue(const QString &text)
 
 } // namespace
 
-QVariantMap parseArgumentDefaults(const QStringList &argumentVector)
-{
+QVariantMap parseArgumentDefaults(const QStringList &argumentVector) {
     QVariantMap defaults;
     for (qsizetype i = 1; i + 1 < argumentVector.size(); ++i) {
         const QString &key = argumentVector.at(i);
@@ -37,23 +35,20 @@ QVariantMap parseArgumentDefaults(const QStringList &argumentVector)
     return defaults;
 }
 
-LinuxUserDefaults::LinuxUserDefaults(const QStringList &argumentVector,
-                                     QString configurationFolder, QString domain)
-    : m_argumentDefaults(parseArgumentDefaults(argumentVector)),
-      m_configurationFolder(std::move(configurationFolder)), m_domain(std::move(domain))
-{
-}
+LinuxUserDefaults::LinuxUserDefaults(const QStringList &argumentVector, QString configurationFolder,
+                                     QString domain)
+    : m_argumentDefaults(parseArgumentDefaults(argumentVector))
+    , m_configurationFolder(std::move(configurationFolder))
+    , m_domain(std::move(domain)) {}
 
-std::optional<QVariant> LinuxUserDefaults::objectForKey(const QString &key) const
-{
+std::optional<QVariant> LinuxUserDefaults::objectForKey(const QString &key) const {
     if (const auto value = m_argumentDefaults.constFind(key); value != m_argumentDefaults.cend())
         return *value;
     return objectForKey(key, m_domain);
 }
 
 std::optional<QVariant> LinuxUserDefaults::objectForKey(const QString &key,
-                                                        const QString &suiteName) const
-{
+                                                        const QString &suiteName) const {
     // A suite's name becomes a file's name; one that would lead elsewhere names no suite.
     if (suiteName.isEmpty() || suiteName.contains(u'/'))
         return std::nullopt;

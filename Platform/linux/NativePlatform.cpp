@@ -22,13 +22,11 @@ namespace zt {
 
 namespace {
 
-QString configurationFolder()
-{
+QString configurationFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
-QString settingsDomain(const Bundle &bundle)
-{
+QString settingsDomain(const Bundle &bundle) {
     return bundle.stringForKey(u"CFBundleIdentifier"_s).value_or(QString());
 }
 
@@ -36,9 +34,7 @@ QString settingsDomain(const Bundle &bundle)
 
 struct NativePlatform::Services {
     explicit Services(const QStringList &arguments)
-        : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle()))
-    {
-    }
+        : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle())) {}
 
     StandardErrorLog log;
     EventLoopClock clock;
@@ -54,14 +50,11 @@ struct NativePlatform::Services {
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)
-    : m_services(std::make_unique<Services>(arguments))
-{
-}
+    : m_services(std::make_unique<Services>(arguments)) {}
 
 NativePlatform::~NativePlatform() = default;
 
-const Platform &NativePlatform::services() const
-{
+const Platform &NativePlatform::services() const {
     return m_services->platform;
 }
 

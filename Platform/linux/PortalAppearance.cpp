@@ -24,22 +24,23 @@ constexpr int firstAnswerTimeout = 100; // milliseconds
 constexpr int laterAnswerTimeout = 25'000;
 
 // The values of org.freedesktop.appearance color-scheme: 1 dark, 2 light, others no preference.
-std::optional<Appearance::Scheme> schemeOf(QVariant value)
-{
+std::optional<Appearance::Scheme> schemeOf(QVariant value) {
     // The portal wraps the value once or twice, depending on its age.
     while (value.metaType() == QMetaType::fromType<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
     switch (value.toUInt()) {
-    case 1: return Appearance::Scheme::Dark;
-    case 2: return Appearance::Scheme::Light;
-    default: return std::nullopt;
+    case 1:
+        return Appearance::Scheme::Dark;
+    case 2:
+        return Appearance::Scheme::Light;
+    default:
+        return std::nullopt;
     }
 }
 
 } // namespace
 
-PortalAppearance::PortalAppearance()
-{
+PortalAppearance::PortalAppearance() {
     // Without this the bus refuses to deliver a signal that carries a variant.
     qRegisterMetaType<QDBusVariant>();
     QDBusConnection bus = QDBusConnection::sessionBus();
@@ -66,8 +67,7 @@ PortalAppearance::PortalAppearance()
     });
 }
 
-std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const
-{
+std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
     if (m_firstAnswer) {
         QDBusPendingCall answer = *m_firstAnswer;
         answer.waitForFinished();
@@ -77,35 +77,30 @@ std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const
     return m_scheme;
 }
 
-void PortalAppearance::setChangeListener(std::function<void()> changed)
-{
+void PortalAppearance::setChangeListener(std::function<void()> changed) {
     m_changed = std::move(changed);
 }
 
 void PortalAppearance::settingChanged(const QString &group, const QString &key,
-                                      const QDBusVariant &value)
-{
+                                      const QDBusVariant &value) {
     if (group == appearanceGroup && key == colorSchemeKey)
         setScheme(schemeOf(value.variant()));
 }
 
-QDBusPendingCall PortalAppearance::askPortal(int timeoutMilliseconds) const
-{
+QDBusPendingCall PortalAppearance::askPortal(int timeoutMilliseconds) const {
     QDBusMessage question =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
     question << appearanceGroup << colorSchemeKey;
     return QDBusConnection::sessionBus().asyncCall(question, timeoutMilliseconds);
 }
 
-void PortalAppearance::takeAnswer(const QDBusPendingCall &answer)
-{
+void PortalAppearance::takeAnswer(const QDBusPendingCall &answer) {
     const QDBusPendingReply<QDBusVariant> reply = answer;
     if (!reply.isError())
         setScheme(schemeOf(QVariant::fromValue(reply.value())));
 }
 
-void PortalAppearance::setScheme(std::optional<Scheme> scheme)
-{
+void PortalAppearance::setScheme(std::optional<Scheme> scheme) {
     m_firstAnswer.reset();
     if (scheme == m_scheme)
         return;

@@ -7,8 +7,7 @@
 
 namespace zt {
 
-void StandardErrorLog::writeLine(std::string_view message)
-{
+void StandardErrorLog::writeLine(std::string_view message) {
     writeLogLine(message);
 }
 

@@ -11,29 +11,49 @@ namespace {
 using RoleColor = std::pair<QPalette::ColorRole, QRgb>;
 
 constexpr std::array lightColors{
-    RoleColor{QPalette::Window, 0xfffafafb},        RoleColor{QPalette::WindowText, 0xff1e1e20},
-    RoleColor{QPalette::Base, 0xffffffff},          RoleColor{QPalette::AlternateBase, 0xfff3f3f5},
-    RoleColor{QPalette::Text, 0xff1e1e20},          RoleColor{QPalette::Button, 0xffebebed},
-    RoleColor{QPalette::ButtonText, 0xff1e1e20},    RoleColor{QPalette::BrightText, 0xffffffff},
-    RoleColor{QPalette::Highlight, 0xff1a5fb4},     RoleColor{QPalette::HighlightedText, 0xffffffff},
-    RoleColor{QPalette::Link, 0xff1a5fb4},          RoleColor{QPalette::LinkVisited, 0xff613583},
-    RoleColor{QPalette::ToolTipBase, 0xff2d2d30},   RoleColor{QPalette::ToolTipText, 0xffffffff},
-    RoleColor{QPalette::PlaceholderText, 0xff6b6b70}, RoleColor{QPalette::Light, 0xffffffff},
-    RoleColor{QPalette::Midlight, 0xfff3f3f5},      RoleColor{QPalette::Mid, 0xffc4c4c8},
-    RoleColor{QPalette::Dark, 0xff9a9aa0},          RoleColor{QPalette::Shadow, 0xff5e5e64},
+    RoleColor{QPalette::Window, 0xfffafafb},
+    RoleColor{QPalette::WindowText, 0xff1e1e20},
+    RoleColor{QPalette::Base, 0xffffffff},
+    RoleColor{QPalette::AlternateBase, 0xfff3f3f5},
+    RoleColor{QPalette::Text, 0xff1e1e20},
+    RoleColor{QPalette::Button, 0xffebebed},
+    RoleColor{QPalette::ButtonText, 0xff1e1e20},
+    RoleColor{QPalette::BrightText, 0xffffffff},
+    RoleColor{QPalette::Highlight, 0xff1a5fb4},
+    RoleColor{QPalette::HighlightedText, 0xffffffff},
+    RoleColor{QPalette::Link, 0xff1a5fb4},
+    RoleColor{QPalette::LinkVisited, 0xff613583},
+    RoleColor{QPalette::ToolTipBase, 0xff2d2d30},
+    RoleColor{QPalette::ToolTipText, 0xffffffff},
+    RoleColor{QPalette::PlaceholderText, 0xff6b6b70},
+    RoleColor{QPalette::Light, 0xffffffff},
+    RoleColor{QPalette::Midlight, 0xfff3f3f5},
+    RoleColor{QPalette::Mid, 0xffc4c4c8},
+    RoleColor{QPalette::Dark, 0xff9a9aa0},
+    RoleColor{QPalette::Shadow, 0xff5e5e64},
 };
 
 constexpr std::array darkColors{
-    RoleColor{QPalette::Window, 0xff242426},        RoleColor{QPalette::WindowText, 0xffffffff},
-    RoleColor{QPalette::Base, 0xff1e1e20},          RoleColor{QPalette::AlternateBase, 0xff2a2a2d},
-    RoleColor{QPalette::Text, 0xffffffff},          RoleColor{QPalette::Button, 0xff3a3a3d},
-    RoleColor{QPalette::ButtonText, 0xffffffff},    RoleColor{QPalette::BrightText, 0xffffffff},
-    RoleColor{QPalette::Highlight, 0xff1c71d8},     RoleColor{QPalette::HighlightedText, 0xffffffff},
-    RoleColor{QPalette::Link, 0xff78aeed},          RoleColor{QPalette::LinkVisited, 0xffc9a0e0},
-    RoleColor{QPalette::ToolTipBase, 0xff3a3a3d},   RoleColor{QPalette::ToolTipText, 0xffffffff},
-    RoleColor{QPalette::PlaceholderText, 0xffa0a0a6}, RoleColor{QPalette::Light, 0xff56565b},
-    RoleColor{QPalette::Midlight, 0xff454549},      RoleColor{QPalette::Mid, 0xff303033},
-    RoleColor{QPalette::Dark, 0xff19191b},          RoleColor{QPalette::Shadow, 0xff000000},
+    RoleColor{QPalette::Window, 0xff242426},
+    RoleColor{QPalette::WindowText, 0xffffffff},
+    RoleColor{QPalette::Base, 0xff1e1e20},
+    RoleColor{QPalette::AlternateBase, 0xff2a2a2d},
+    RoleColor{QPalette::Text, 0xffffffff},
+    RoleColor{QPalette::Button, 0xff3a3a3d},
+    RoleColor{QPalette::ButtonText, 0xffffffff},
+    RoleColor{QPalette::BrightText, 0xffffffff},
+    RoleColor{QPalette::Highlight, 0xff1c71d8},
+    RoleColor{QPalette::HighlightedText, 0xffffffff},
+    RoleColor{QPalette::Link, 0xff78aeed},
+    RoleColor{QPalette::LinkVisited, 0xffc9a0e0},
+    RoleColor{QPalette::ToolTipBase, 0xff3a3a3d},
+    RoleColor{QPalette::ToolTipText, 0xffffffff},
+    RoleColor{QPalette::PlaceholderText, 0xffa0a0a6},
+    RoleColor{QPalette::Light, 0xff56565b},
+    RoleColor{QPalette::Midlight, 0xff454549},
+    RoleColor{QPalette::Mid, 0xff303033},
+    RoleColor{QPalette::Dark, 0xff19191b},
+    RoleColor{QPalette::Shadow, 0xff000000},
 };
 
 constexpr QRgb lightDisabledText = 0xff86868b;
@@ -41,8 +61,7 @@ constexpr QRgb darkDisabledText = 0xff818187;
 
 } // namespace
 
-QPalette paletteForScheme(zt::Appearance::Scheme scheme)
-{
+QPalette paletteForScheme(zt::Appearance::Scheme scheme) {
     const bool dark = scheme == zt::Appearance::Scheme::Dark;
     QPalette palette;
     for (const auto &[role, color] : dark ? darkColors : lightColors)
@@ -53,8 +72,7 @@ QPalette paletteForScheme(zt::Appearance::Scheme scheme)
     return palette;
 }
 
-bool isDarkPalette(const QPalette &palette)
-{
+bool isDarkPalette(const QPalette &palette) {
     return palette.color(QPalette::WindowText).lightness() >
            palette.color(QPalette::Window).lightness();
 }

@@ -10,8 +10,7 @@
 
 namespace ZTViewExtensions {
 
-void useLightAquaAppearance(QWidget &receiver, LightAppearance appearance)
-{
+void useLightAquaAppearance(QWidget &receiver, LightAppearance appearance) {
     if (!ZTUtilities::mojaveOrNewer())
         return;
     receiver.setPalette(appearance == LightAppearance::Forced

@@ -30,13 +30,11 @@ struct StagedVersion {
 };
 
 // Letters of every script count, with the marks that go with them.
-bool isLetter(char32_t scalar)
-{
+bool isLetter(char32_t scalar) {
     return QChar::isLetter(scalar) || QChar::isMark(scalar);
 }
 
-StagedVersion splitAtFirstLetter(QStringView version)
-{
+StagedVersion splitAtFirstLetter(QStringView version) {
     for (qsizetype i = 0; i < version.size(); ++i) {
         const bool pair = i + 1 < version.size() && version.at(i).isHighSurrogate() &&
                           version.at(i + 1).isLowSurrogate();
@@ -52,18 +50,15 @@ StagedVersion splitAtFirstLetter(QStringView version)
     return {version, releaseStage, u"0"};
 }
 
-double frameworkVersion()
-{
+double frameworkVersion() {
     return zt::currentPlatform().systemVersion.frameworkVersion();
 }
 
-QString mainBundleString(const QString &key)
-{
+QString mainBundleString(const QString &key) {
     return zt::currentPlatform().bundles.mainBundle().stringForKey(key).value_or(QString());
 }
 
-std::uint16_t partOrZero(std::optional<std::int32_t> part, QAnyStringView failure)
-{
+std::uint16_t partOrZero(std::optional<std::int32_t> part, QAnyStringView failure) {
     if (!part)
         ZTLog(failure);
     return static_cast<std::uint16_t>(part.value_or(0));
@@ -71,41 +66,34 @@ std::uint16_t partOrZero(std::optional<std::int32_t> part, QAnyStringView failur
 
 } // namespace
 
-int developmentStage(char16_t letter)
-{
+int developmentStage(char16_t letter) {
     return static_cast<int>(std::max(qsizetype(0), developmentStages.indexOf(QChar(letter))));
 }
 
-QString ZTUtilities::applicationName()
-{
+QString ZTUtilities::applicationName() {
     return mainBundleString(u"CFBundleExecutable"_s);
 }
 
-QString ZTUtilities::versionString()
-{
+QString ZTUtilities::versionString() {
     return mainBundleString(u"CFBundleVersion"_s);
 }
 
-QString ZTUtilities::plainVersionOf(const QString &version)
-{
+QString ZTUtilities::plainVersionOf(const QString &version) {
     qsizetype length = 0;
     while (length < version.size() && QStringView(u"0123456789.").contains(version.at(length)))
         ++length;
     return length == version.size() ? version : version.left(length);
 }
 
-QString ZTUtilities::plainVersionString()
-{
+QString ZTUtilities::plainVersionString() {
     return plainVersionOf(versionString());
 }
 
-std::uint32_t ZTUtilities::hexSystemVersion()
-{
+std::uint32_t ZTUtilities::hexSystemVersion() {
     return zt::currentPlatform().systemVersion.packedVersion().value_or(0);
 }
 
-ZTUtilities::ThreePartVersion ZTUtilities::threePartVersion()
-{
+ZTUtilities::ThreePartVersion ZTUtilities::threePartVersion() {
     const zt::SystemVersion &system = zt::currentPlatform().systemVersion;
     if (const auto major = system.majorVersion()) {
         return {static_cast<std::uint16_t>(*major),
@@ -120,8 +108,7 @@ ZTUtilities::ThreePartVersion ZTUtilities::threePartVersion()
             static_cast<std::uint16_t>(digit(4)), static_cast<std::uint16_t>(digit(0))};
 }
 
-std::int32_t ZTUtilities::decimalSystemVersion()
-{
+std::int32_t ZTUtilities::decimalSystemVersion() {
     // 0: not computed yet, or unknown, in which case the next call asks again.
     static std::atomic<std::int32_t> decimalSystemVersion = 0;
     if (decimalSystemVersion == 0) {
@@ -131,16 +118,13 @@ std::int32_t ZTUtilities::decimalSystemVersion()
     return decimalSystemVersion;
 }
 
-QString ZTUtilities::systemVersionString()
-{
+QString ZTUtilities::systemVersionString() {
     const ThreePartVersion version = threePartVersion();
-    return version.bugFix > 0
-               ? ZTFormat("%d.%d.%d", version.major, version.minor, version.bugFix)
-               : ZTFormat("%d.%d", version.major, version.minor);
+    return version.bugFix > 0 ? ZTFormat("%d.%d.%d", version.major, version.minor, version.bugFix)
+                              : ZTFormat("%d.%d", version.major, version.minor);
 }
 
-Ordering ZTUtilities::compareVersion(const QString &version, const QString &withVersion)
-{
+Ordering ZTUtilities::compareVersion(const QString &version, const QString &withVersion) {
     const StagedVersion a = splitAtFirstLetter(version);
     const StagedVersion b = splitAtFirstLetter(withVersion);
     if (const Ordering bases = numericCompare(a.base, b.base); bases != Ordering::Same)
@@ -150,8 +134,7 @@ Ordering ZTUtilities::compareVersion(const QString &version, const QString &with
     return numericCompare(a.rest, b.rest);
 }
 
-QString ZTUtilities::localizedDateString(const QString &date)
-{
+QString ZTUtilities::localizedDateString(const QString &date) {
     const QDate day = QDate::fromString(date, u"yyyy-MM-dd"_s);
     if (!day.isValid())
         return {};
@@ -159,58 +142,47 @@ QString ZTUtilities::localizedDateString(const QString &date)
     return QLocale().toString(midnight.toLocalTime().date(), QLocale::ShortFormat);
 }
 
-bool ZTUtilities::pantherOrOlder()
-{
+bool ZTUtilities::pantherOrOlder() {
     return std::floor(frameworkVersion()) <= 743.0;
 }
 
-bool ZTUtilities::leopardOrNewer()
-{
+bool ZTUtilities::leopardOrNewer() {
     return std::floor(frameworkVersion()) > 824.0;
 }
 
-bool ZTUtilities::snowleopardOrNewer()
-{
+bool ZTUtilities::snowleopardOrNewer() {
     return std::floor(frameworkVersion()) >= 1038.0;
 }
 
-bool ZTUtilities::lionOrNewer()
-{
+bool ZTUtilities::lionOrNewer() {
     return frameworkVersion() >= 1138.0;
 }
 
-bool ZTUtilities::mountainLionOrNewer()
-{
+bool ZTUtilities::mountainLionOrNewer() {
     return frameworkVersion() >= 1187.0;
 }
 
-bool ZTUtilities::mavericksOrNewer()
-{
+bool ZTUtilities::mavericksOrNewer() {
     return frameworkVersion() >= 1265.0;
 }
 
-bool ZTUtilities::yosemiteOrNewer()
-{
+bool ZTUtilities::yosemiteOrNewer() {
     return frameworkVersion() >= 1343.0;
 }
 
-bool ZTUtilities::elCapitanOrNewer()
-{
+bool ZTUtilities::elCapitanOrNewer() {
     return frameworkVersion() >= 1404.0;
 }
 
-bool ZTUtilities::sierraOrNewer()
-{
+bool ZTUtilities::sierraOrNewer() {
     return frameworkVersion() >= 1490.0;
 }
 
-bool ZTUtilities::highSierraOrNewer()
-{
+bool ZTUtilities::highSierraOrNewer() {
     // The releases just before this one share its whole number.
     return frameworkVersion() >= 1537.2;
 }
 
-bool ZTUtilities::mojaveOrNewer()
-{
+bool ZTUtilities::mojaveOrNewer() {
     return frameworkVersion() >= 1639.0;
 }

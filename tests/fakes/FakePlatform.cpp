@@ -8,51 +8,43 @@
 
 using namespace Qt::StringLiterals;
 
-void FakeLog::writeLine(std::string_view message)
-{
+void FakeLog::writeLine(std::string_view message) {
     const std::scoped_lock lock(m_mutex);
     m_lines << QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size()));
 }
 
-QStringList FakeLog::lines() const
-{
+QStringList FakeLog::lines() const {
     const std::scoped_lock lock(m_mutex);
     return m_lines;
 }
 
-void FakeLog::clear()
-{
+void FakeLog::clear() {
     const std::scoped_lock lock(m_mutex);
     m_lines.clear();
 }
 
-std::chrono::system_clock::time_point FakeClock::now() const
-{
+std::chrono::system_clock::time_point FakeClock::now() const {
     const std::scoped_lock lock(m_mutex);
     return std::chrono::system_clock::time_point(m_elapsed);
 }
 
-std::chrono::steady_clock::time_point FakeClock::steadyNow() const
-{
+std::chrono::steady_clock::time_point FakeClock::steadyNow() const {
     const std::scoped_lock lock(m_mutex);
     return std::chrono::steady_clock::time_point(m_elapsed);
 }
 
-void FakeClock::sleepFor(std::chrono::microseconds duration)
-{
+void FakeClock::sleepFor(std::chrono::microseconds duration) {
     const std::scoped_lock lock(m_mutex);
     sleeps.push_back(duration);
     m_elapsed += duration;
 }
 
-void FakeClock::callAfter(std::chrono::milliseconds delay, std::function<void()> action)
-{
+void FakeClock::callAfter(std::chrono::milliseconds delay, std::function<void()> action) {
     const std::scoped_lock lock(m_mutex);
     m_delayedCalls.push_back({m_elapsed + delay, std::move(action)});
 }
 
-void FakeClock::advance(std::chrono::microseconds duration)
-{
+void FakeClock::advance(std::chrono::microseconds duration) {
     std::vector<DelayedCall> due;
     {
         const std::scoped_lock lock(m_mutex);
@@ -63,15 +55,13 @@ void FakeClock::advance(std::chrono::microseconds duration)
         due.assign(firstDue, m_delayedCalls.end());
         m_delayedCalls.erase(firstDue, m_delayedCalls.end());
     }
-    std::stable_sort(due.begin(), due.end(), [](const DelayedCall &a, const DelayedCall &b) {
-        return a.due < b.due;
-    });
+    std::stable_sort(due.begin(), due.end(),
+                     [](const DelayedCall &a, const DelayedCall &b) { return a.due < b.due; });
     for (const DelayedCall &call : due)
         call.action();
 }
 
-std::optional<zt::Bundle> FakeBundles::bundleAtPath(const QString &path) const
-{
+std::optional<zt::Bundle> FakeBundles::bundleAtPath(const QString &path) const {
     const auto found = m_bundles.constFind(path);
     if (found == m_bundles.cend())
         return std::nullopt;
@@ -81,8 +71,7 @@ std::optional<zt::Bundle> FakeBundles::bundleAtPath(const QString &path) const
                        .information = *found});
 }
 
-std::optional<zt::Bundle> FakeBundles::bundleEnclosing(const QString &path) const
-{
+std::optional<zt::Bundle> FakeBundles::bundleEnclosing(const QString &path) const {
     for (auto bundle = m_bundles.cbegin(); bundle != m_bundles.cend(); ++bundle) {
         if (path == bundle.key() || path.startsWith(bundle.key() + u'/'))
             return bundleAtPath(bundle.key());
@@ -90,76 +79,64 @@ std::optional<zt::Bundle> FakeBundles::bundleEnclosing(const QString &path) cons
     return std::nullopt;
 }
 
-void FakeBundles::add(const QString &path, const QVariantMap &information)
-{
+void FakeBundles::add(const QString &path, const QVariantMap &information) {
     m_bundles.insert(path, information);
 }
 
-void FakeBundles::setMainBundle(const QString &path, const QVariantMap &information)
-{
+void FakeBundles::setMainBundle(const QString &path, const QVariantMap &information) {
     m_mainBundle = zt::Bundle({.path = path,
                                .resourcesPath = path + u"/Contents/Resources"_s,
                                .executablePath = {},
                                .information = information});
 }
 
-std::optional<QVariant> FakeUserDefaults::objectForKey(const QString &key) const
-{
+std::optional<QVariant> FakeUserDefaults::objectForKey(const QString &key) const {
     const auto found = values.constFind(key);
     return found == values.cend() ? std::nullopt : std::optional(*found);
 }
 
 std::optional<QVariant> FakeUserDefaults::objectForKey(const QString &key,
-                                                       const QString &suiteName) const
-{
+                                                       const QString &suiteName) const {
     const QVariantMap suite = suites.value(suiteName);
     const auto found = suite.constFind(key);
     return found == suite.cend() ? std::nullopt : std::optional(*found);
 }
 
-QIcon FakeWorkspace::iconForFile(const QString &path)
-{
+QIcon FakeWorkspace::iconForFile(const QString &path) {
     iconRequests << path;
     return icon;
 }
 
-bool FakeWorkspace::openFile(const QString &path)
-{
+bool FakeWorkspace::openFile(const QString &path) {
     openedFiles << path;
     return true;
 }
 
-bool FakeWorkspace::openUrl(const QUrl &url)
-{
+bool FakeWorkspace::openUrl(const QUrl &url) {
     openedUrls << url;
     return true;
 }
 
-QString FakeWorkspace::displayName(const QString &path) const
-{
+QString FakeWorkspace::displayName(const QString &path) const {
     return displayNames.value(path, path.section(u'/', -1));
 }
 
-void FakeWorkspace::noteFileSystemChanged(const QString &path)
-{
+void FakeWorkspace::noteFileSystemChanged(const QString &path) {
     const std::scoped_lock lock(m_mutex);
     notedChanges << path;
 }
 
-QStringList FakeWorkspace::applicationsFolders(Domain domain) const
-{
+QStringList FakeWorkspace::applicationsFolders(Domain domain) const {
     return domain == Domain::Local ? localApplications : userApplications;
 }
 
-void FakeAppearance::setScheme(std::optional<Scheme> scheme)
-{
+void FakeAppearance::setScheme(std::optional<Scheme> scheme) {
     m_scheme = scheme;
     if (m_changed)
         m_changed();
 }
 
-zt::Result<std::string> FakeTrash::moveToTrash(const std::string &path)
-{
+zt::Result<std::string> FakeTrash::moveToTrash(const std::string &path) {
     if (refuses)
         return zt::Error{"trash", path, "refused by the test"};
     const std::string target = folder + '/' + std::filesystem::path(path).filename().string();

@@ -100,8 +100,7 @@ public:
 
 class FakeLoginItems final : public zt::LoginItems {
 public:
-    std::optional<std::vector<std::optional<QString>>> resolvedPaths() const override
-    {
+    std::optional<std::vector<std::optional<QString>>> resolvedPaths() const override {
         return paths;
     }
 
@@ -136,8 +135,7 @@ private:
 class FakeAppearance final : public zt::Appearance {
 public:
     std::optional<Scheme> preferredScheme() const override { return m_scheme; }
-    void setChangeListener(std::function<void()> changed) override
-    {
+    void setChangeListener(std::function<void()> changed) override {
         m_changed = std::move(changed);
     }
     void setScheme(std::optional<Scheme> scheme);

@@ -12,20 +12,17 @@
 
 namespace {
 
-bool isDigit(char16_t unit)
-{
+bool isDigit(char16_t unit) {
     return unit >= u'0' && unit <= u'9';
 }
 
-QStringView withoutLeadingBlanks(QStringView text)
-{
+QStringView withoutLeadingBlanks(QStringView text) {
     const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return !c.isSpace(); });
     return text.mid(first - text.begin());
 }
 
 // The length of the longest beginning that is a decimal number without a sign; 0 when none.
-qsizetype unsignedNumberLength(QStringView text)
-{
+qsizetype unsignedNumberLength(QStringView text) {
     const auto digitsFrom = [text](qsizetype position) {
         qsizetype end = position;
         while (end < text.size() && isDigit(text.at(end).unicode()))
@@ -40,7 +37,8 @@ qsizetype unsignedNumberLength(QStringView text)
             return 0;
         length += 1 + fraction;
     }
-    if (length > 0 && length < text.size() && (text.at(length) == u'e' || text.at(length) == u'E')) {
+    if (length > 0 && length < text.size() &&
+        (text.at(length) == u'e' || text.at(length) == u'E')) {
         qsizetype exponent = length + 1;
         if (exponent < text.size() && (text.at(exponent) == u'+' || text.at(exponent) == u'-'))
             ++exponent;
@@ -52,15 +50,13 @@ qsizetype unsignedNumberLength(QStringView text)
 
 // Tells an overflow from an underflow where the library reports only "out of range": by the
 // decimal exponent of the first significant digit.
-bool isTooLarge(const QByteArray &number)
-{
+bool isTooLarge(const QByteArray &number) {
     const auto e = number.indexOf('e') >= 0 ? number.indexOf('e') : number.indexOf('E');
     return e < 0 || number.at(e + 1) != '-';
 }
 
 template <typename Real>
-Real realValue(QStringView text)
-{
+Real realValue(QStringView text) {
     QStringView rest = withoutLeadingBlanks(text);
     const bool negative = rest.startsWith(u'-');
     if (negative || rest.startsWith(u'+'))
@@ -75,8 +71,7 @@ Real realValue(QStringView text)
 
 } // namespace
 
-int integerValue(QStringView text)
-{
+int integerValue(QStringView text) {
     QStringView rest = withoutLeadingBlanks(text);
     const bool negative = rest.startsWith(u'-');
     if (negative || rest.startsWith(u'+'))
@@ -91,12 +86,10 @@ int integerValue(QStringView text)
     return static_cast<int>(negative ? -value : std::min(value, largest));
 }
 
-double doubleValue(QStringView text)
-{
+double doubleValue(QStringView text) {
     return realValue<double>(text);
 }
 
-float floatValue(QStringView text)
-{
+float floatValue(QStringView text) {
     return realValue<float>(text);
 }

@@ -5,14 +5,12 @@
 
 namespace {
 
-bool isDigit(QChar c)
-{
+bool isDigit(QChar c) {
     return c >= u'0' && c <= u'9';
 }
 
 // Takes a run of digits off the front of the text and answers it without its leading zeros.
-QStringView takeNumber(QStringView &text)
-{
+QStringView takeNumber(QStringView &text) {
     qsizetype start = 0;
     while (start < text.size() && text.at(start) == u'0')
         ++start;
@@ -24,8 +22,7 @@ QStringView takeNumber(QStringView &text)
     return number;
 }
 
-Ordering ordering(qsizetype difference)
-{
+Ordering ordering(qsizetype difference) {
     if (difference == 0)
         return Ordering::Same;
     return difference < 0 ? Ordering::Ascending : Ordering::Descending;
@@ -33,8 +30,7 @@ Ordering ordering(qsizetype difference)
 
 } // namespace
 
-Ordering numericCompare(QStringView a, QStringView b)
-{
+Ordering numericCompare(QStringView a, QStringView b) {
     while (!a.isEmpty() && !b.isEmpty()) {
         Ordering result = Ordering::Same;
         if (isDigit(a.front()) && isDigit(b.front())) {

@@ -7,8 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString withoutTrailingSlashes(const QString &path)
-{
+QString withoutTrailingSlashes(const QString &path) {
     qsizetype end = path.size();
     while (end > 1 && path.at(end - 1) == u'/')
         --end;
@@ -17,14 +16,12 @@ QString withoutTrailingSlashes(const QString &path)
 
 } // namespace
 
-QString lastPathComponent(const QString &path)
-{
+QString lastPathComponent(const QString &path) {
     const QString trimmed = withoutTrailingSlashes(path);
     return trimmed == u'/' ? trimmed : trimmed.mid(trimmed.lastIndexOf(u'/') + 1);
 }
 
-QString deletingLastPathComponent(const QString &path)
-{
+QString deletingLastPathComponent(const QString &path) {
     const QString trimmed = withoutTrailingSlashes(path);
     const qsizetype slash = trimmed.lastIndexOf(u'/');
     if (slash < 0)
@@ -32,16 +29,14 @@ QString deletingLastPathComponent(const QString &path)
     return slash == 0 ? u"/"_s : withoutTrailingSlashes(trimmed.left(slash));
 }
 
-QString appendingPathComponent(const QString &path, const QString &component)
-{
+QString appendingPathComponent(const QString &path, const QString &component) {
     if (path.isEmpty())
         return component;
     const QString folder = withoutTrailingSlashes(path);
     return folder == u'/' ? folder + component : folder + u'/' + component;
 }
 
-QString deletingPathExtension(const QString &path)
-{
+QString deletingPathExtension(const QString &path) {
     const QString trimmed = withoutTrailingSlashes(path);
     const qsizetype name = trimmed.lastIndexOf(u'/') + 1;
     const qsizetype dot = trimmed.lastIndexOf(u'.');

@@ -28,8 +28,7 @@ struct Placeholder {
     char16_t conversion = 0;
 };
 
-QString quoted(const QString &text)
-{
+QString quoted(const QString &text) {
     QString escaped = text;
     escaped.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
     return u'"' + escaped + u'"';
@@ -37,8 +36,7 @@ QString quoted(const QString &text)
 
 } // namespace
 
-QString ZTFormatArgument::describe(const QVariant &value)
-{
+QString ZTFormatArgument::describe(const QVariant &value) {
     switch (value.typeId()) {
     case QMetaType::QStringList:
     case QMetaType::QVariantList: {
@@ -63,12 +61,10 @@ QString ZTFormatArgument::describe(const QVariant &value)
 class ZTFormatter {
 public:
     ZTFormatter(const QString &format, std::initializer_list<ZTFormatArgument> arguments)
-        : m_format(format), m_arguments(arguments)
-    {
-    }
+        : m_format(format)
+        , m_arguments(arguments) {}
 
-    QString text()
-    {
+    QString text() {
         QString result;
         while (m_position < m_format.size()) {
             const qsizetype percent = m_format.indexOf(u'%', m_position);
@@ -87,35 +83,42 @@ public:
     }
 
 private:
-    char16_t peek() const
-    {
+    char16_t peek() const {
         return m_position < m_format.size() ? m_format.at(m_position).unicode() : u'\0';
     }
 
-    int readNumber()
-    {
+    int readNumber() {
         int number = 0;
         for (; peek() >= u'0' && peek() <= u'9'; ++m_position)
             number = std::min(maximumFieldWidth, number * 10 + (peek() - u'0'));
         return number;
     }
 
-    void readFlags(Placeholder &placeholder)
-    {
+    void readFlags(Placeholder &placeholder) {
         for (;; ++m_position) {
             switch (peek()) {
-            case u'-': placeholder.leftJustified = true; break;
-            case u'+': placeholder.showSign = true; break;
-            case u' ': placeholder.blankSign = true; break;
-            case u'#': placeholder.alternate = true; break;
-            case u'0': placeholder.zeroPadded = true; break;
-            default: return;
+            case u'-':
+                placeholder.leftJustified = true;
+                break;
+            case u'+':
+                placeholder.showSign = true;
+                break;
+            case u' ':
+                placeholder.blankSign = true;
+                break;
+            case u'#':
+                placeholder.alternate = true;
+                break;
+            case u'0':
+                placeholder.zeroPadded = true;
+                break;
+            default:
+                return;
             }
         }
     }
 
-    std::optional<Placeholder> readPlaceholder()
-    {
+    std::optional<Placeholder> readPlaceholder() {
         Placeholder placeholder;
         const qsizetype start = m_position;
         const int position = readNumber();
@@ -141,10 +144,8 @@ private:
         return placeholder;
     }
 
-    QString replacement(const Placeholder &placeholder)
-    {
-        const qsizetype index =
-            placeholder.argument >= 0 ? placeholder.argument : m_nextArgument++;
+    QString replacement(const Placeholder &placeholder) {
+        const qsizetype index = placeholder.argument >= 0 ? placeholder.argument : m_nextArgument++;
         if (index >= m_arguments.size())
             return missingText;
         const auto &value = m_arguments.at(index).m_value;
@@ -160,8 +161,7 @@ private:
         return padded(missingText, placeholder);
     }
 
-    static QString signOf(bool negative, const Placeholder &placeholder)
-    {
+    static QString signOf(bool negative, const Placeholder &placeholder) {
         if (negative)
             return u"-"_s;
         if (placeholder.showSign)
@@ -169,8 +169,7 @@ private:
         return placeholder.blankSign ? u" "_s : QString();
     }
 
-    static QString signedText(qint64 number, const Placeholder &placeholder)
-    {
+    static QString signedText(qint64 number, const Placeholder &placeholder) {
         switch (placeholder.conversion) {
         case u'x':
         case u'X':
@@ -185,16 +184,18 @@ private:
         case u'e':
         case u'E':
         case u'g':
-        case u'G': return realText(static_cast<double>(number), placeholder);
-        default: break;
+        case u'G':
+            return realText(static_cast<double>(number), placeholder);
+        default:
+            break;
         }
         const quint64 magnitude =
             number < 0 ? ~static_cast<quint64>(number) + 1 : static_cast<quint64>(number);
         return unsignedText(magnitude, placeholder, signOf(number < 0, placeholder));
     }
 
-    static QString unsignedText(quint64 number, const Placeholder &placeholder, const QString &sign)
-    {
+    static QString unsignedText(quint64 number, const Placeholder &placeholder,
+                                const QString &sign) {
         switch (placeholder.conversion) {
         case u'c':
         case u'C': {
@@ -206,8 +207,10 @@ private:
         case u'e':
         case u'E':
         case u'g':
-        case u'G': return realText(static_cast<double>(number), placeholder);
-        default: break;
+        case u'G':
+            return realText(static_cast<double>(number), placeholder);
+        default:
+            break;
         }
         int base = 10;
         QString prefix;
@@ -231,8 +234,7 @@ private:
         return padded(sign + digits, placeholder);
     }
 
-    static QString realText(double number, const Placeholder &placeholder)
-    {
+    static QString realText(double number, const Placeholder &placeholder) {
         char letter = 'f';
         if (QStringView(u"eEgGfF").contains(placeholder.conversion))
             letter = static_cast<char>(placeholder.conversion);
@@ -249,8 +251,7 @@ private:
         return padded(sign + digits, placeholder);
     }
 
-    static QString padded(const QString &text, const Placeholder &placeholder)
-    {
+    static QString padded(const QString &text, const Placeholder &placeholder) {
         return placeholder.leftJustified ? text.leftJustified(placeholder.width)
                                          : text.rightJustified(placeholder.width);
     }
@@ -261,7 +262,6 @@ private:
     qsizetype m_nextArgument = 0;
 };
 
-QString ZTFormatList(QAnyStringView format, std::initializer_list<ZTFormatArgument> arguments)
-{
+QString ZTFormatList(QAnyStringView format, std::initializer_list<ZTFormatArgument> arguments) {
     return ZTFormatter(format.toString(), arguments).text();
 }

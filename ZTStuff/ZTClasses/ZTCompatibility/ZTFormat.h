@@ -20,15 +20,13 @@ class ZTFormatArgument {
 public:
     ZTFormatArgument(std::nullopt_t) {}
     ZTFormatArgument(const QString &text) : m_value(text) {}
-    ZTFormatArgument(const char *utf8)
-    {
+    ZTFormatArgument(const char *utf8) {
         if (utf8)
             m_value = QString::fromUtf8(utf8);
     }
     template <typename T>
-        requires std::convertible_to<T, ZTFormatArgument>
-    ZTFormatArgument(const std::optional<T> &value)
-    {
+    requires std::convertible_to<T, ZTFormatArgument>
+    ZTFormatArgument(const std::optional<T> &value) {
         if (value)
             m_value = ZTFormatArgument(*value).m_value;
     }
@@ -59,7 +57,6 @@ QString ZTFormatList(QAnyStringView format, std::initializer_list<ZTFormatArgume
 
 // The same with the arguments one by one: ZTFormat("%@ %1.1f", name, delay).
 template <typename... Arguments>
-QString ZTFormat(QAnyStringView format, const Arguments &...arguments)
-{
+QString ZTFormat(QAnyStringView format, const Arguments &...arguments) {
     return ZTFormatList(format, {ZTFormatArgument(arguments)...});
 }

@@ -8,8 +8,7 @@
 
 #include <QByteArray>
 
-void ZTLogText(const QString &message)
-{
+void ZTLogText(const QString &message) {
     const QByteArray utf8 = message.toUtf8();
     zt::currentPlatform().log.writeLine({utf8.constData(), static_cast<size_t>(utf8.size())});
 }

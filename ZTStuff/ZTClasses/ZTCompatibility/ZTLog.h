@@ -12,7 +12,6 @@
 void ZTLogText(const QString &message);
 
 template <typename... Arguments>
-void ZTLog(QAnyStringView format, const Arguments &...arguments)
-{
+void ZTLog(QAnyStringView format, const Arguments &...arguments) {
     ZTLogText(ZTFormat(format, arguments...));
 }

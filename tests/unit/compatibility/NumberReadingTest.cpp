@@ -14,8 +14,7 @@ struct IntegerRow {
     int value;
 };
 
-TEST(NumberReadingTest, integersAreReadLeniently)
-{
+TEST(NumberReadingTest, integersAreReadLeniently) {
     const IntegerRow rows[] = {
         {"plain", u"42", 42},
         {"leading blanks", u" \t\n42", 42},
@@ -44,8 +43,7 @@ struct RealRow {
     float value;
 };
 
-TEST(NumberReadingTest, realsAreReadLeniently)
-{
+TEST(NumberReadingTest, realsAreReadLeniently) {
     const float infinity = std::numeric_limits<float>::infinity();
     const RealRow rows[] = {
         {"plain", u"2.5", 2.5F},

@@ -14,8 +14,7 @@ struct ComparisonRow {
     Ordering ordering;
 };
 
-TEST(NumericComparisonTest, numbersCountByTheirValue)
-{
+TEST(NumericComparisonTest, numbersCountByTheirValue) {
     const ComparisonRow rows[] = {
         {"equal", u"2.1", u"2.1", Ordering::Same},
         {"both empty", u"", u"", Ordering::Same},

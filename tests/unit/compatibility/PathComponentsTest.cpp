@@ -14,8 +14,7 @@ struct PathRow {
     QString withoutExtension;
 };
 
-TEST(PathComponentsTest, pathsAreTakenApart)
-{
+TEST(PathComponentsTest, pathsAreTakenApart) {
     const PathRow rows[] = {
         {u"/a/b.app"_s, u"b.app"_s, u"/a"_s, u"/a/b"_s},
         {u"/a/b.app/"_s, u"b.app"_s, u"/a"_s, u"/a/b"_s},
@@ -38,8 +37,7 @@ TEST(PathComponentsTest, pathsAreTakenApart)
     }
 }
 
-TEST(PathComponentsTest, aComponentIsAddedBehindOneSlash)
-{
+TEST(PathComponentsTest, aComponentIsAddedBehindOneSlash) {
     EXPECT_EQ(appendingPathComponent(u"/a"_s, u"b"_s), u"/a/b"_s);
     EXPECT_EQ(appendingPathComponent(u"/a/"_s, u"b"_s), u"/a/b"_s);
     EXPECT_EQ(appendingPathComponent(u"/"_s, u"b"_s), u"/b"_s);

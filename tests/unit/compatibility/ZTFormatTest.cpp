@@ -7,18 +7,15 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(ZTFormatTest, textsFillTheirPlaceholdersInOrder)
-{
+TEST(ZTFormatTest, textsFillTheirPlaceholdersInOrder) {
     EXPECT_EQ(ZTFormat("Quitting '%@': %@", u"ABCD"_s, u"Notes"_s), u"Quitting 'ABCD': Notes"_s);
 }
 
-TEST(ZTFormatTest, positionsChooseTheirArgumentAndMayRepeat)
-{
+TEST(ZTFormatTest, positionsChooseTheirArgumentAndMayRepeat) {
     EXPECT_EQ(ZTFormat("%2$@ before %1$@ before %2$@", u"a"_s, u"b"_s), u"b before a before b"_s);
 }
 
-TEST(ZTFormatTest, whatIsMissingPrintsAsNull)
-{
+TEST(ZTFormatTest, whatIsMissingPrintsAsNull) {
     EXPECT_EQ(ZTFormat("%@ %@", std::optional<QString>(), std::nullopt), u"(null) (null)"_s);
     EXPECT_EQ(ZTFormat("%@ %@", u"only"_s), u"only (null)"_s);
     EXPECT_EQ(ZTFormat("%3$@", u"a"_s), u"(null)"_s);
@@ -26,8 +23,7 @@ TEST(ZTFormatTest, whatIsMissingPrintsAsNull)
     EXPECT_EQ(ZTFormat("%s", nothing), u"(null)"_s);
 }
 
-TEST(ZTFormatTest, anOptionalTextThatIsThereIsThatText)
-{
+TEST(ZTFormatTest, anOptionalTextThatIsThereIsThatText) {
     EXPECT_EQ(ZTFormat("%@", std::optional(u"here"_s)), u"here"_s);
 }
 
@@ -37,8 +33,7 @@ struct NumberRow {
     QString expected;
 };
 
-TEST(ZTFormatTest, numbersFollowTheirConversion)
-{
+TEST(ZTFormatTest, numbersFollowTheirConversion) {
     const NumberRow rows[] = {
         {"plain", ZTFormat("%d", -12), u"-12"_s},
         {"long", ZTFormat("%ld", 1234567890123L), u"1234567890123"_s},
@@ -65,29 +60,25 @@ TEST(ZTFormatTest, numbersFollowTheirConversion)
         EXPECT_EQ(row.actual, row.expected) << row.reason;
 }
 
-TEST(ZTFormatTest, aPercentSignThatBeginsNoPlaceholderStays)
-{
+TEST(ZTFormatTest, aPercentSignThatBeginsNoPlaceholderStays) {
     EXPECT_EQ(ZTFormat("100%", u"x"_s), u"100%"_s);
     EXPECT_EQ(ZTFormat("100%% of %@", u"x"_s), u"100% of x"_s);
     EXPECT_EQ(ZTFormat("%y %@", u"x"_s), u"%y x"_s);
     EXPECT_EQ(ZTFormat("%1$", u"x"_s), u"%1$"_s);
 }
 
-TEST(ZTFormatTest, anArgumentIsNeverReadAsAFormat)
-{
+TEST(ZTFormatTest, anArgumentIsNeverReadAsAFormat) {
     EXPECT_EQ(ZTFormat("%@!", u"%@ %d %1$@"_s), u"%@ %d %1$@!"_s);
 }
 
-TEST(ZTFormatTest, listsAndDictionariesPrintOnOneLine)
-{
+TEST(ZTFormatTest, listsAndDictionariesPrintOnOneLine) {
     EXPECT_EQ(ZTFormat("%@", QStringList{u"a"_s, u"b \"c\""_s}), u"(\"a\", \"b \\\"c\\\"\")"_s);
     EXPECT_EQ(ZTFormat("%@", QVariantMap{{u"k"_s, u"v"_s}, {u"Code"_s, QStringList{u"x"_s}}}),
               u"{\"Code\" = (\"x\"); \"k\" = \"v\"; }"_s);
     EXPECT_EQ(ZTFormat("%@", QStringList()), u"()"_s);
 }
 
-TEST(ZTFormatTest, anAbsurdWidthIsHeldWithinBounds)
-{
+TEST(ZTFormatTest, anAbsurdWidthIsHeldWithinBounds) {
     EXPECT_EQ(ZTFormat("%999999999d", 1).size(), 1000);
     EXPECT_EQ(ZTFormat("%99999999999999999999$@", u"x"_s), u"(null)"_s);
 }

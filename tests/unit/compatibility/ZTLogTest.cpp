@@ -9,15 +9,13 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(ZTLogTest, aLineGoesToTheCurrentPlatformsLog)
-{
+TEST(ZTLogTest, aLineGoesToTheCurrentPlatformsLog) {
     FakePlatform platform;
     ZTLog("quit delay: %1.1f", 2.5F);
     ZTLog("caf\u00e9 %@", std::optional<QString>());
     EXPECT_EQ(platform.log.lines(), (QStringList{u"quit delay: 2.5"_s, u"caf\u00e9 (null)"_s}));
 }
 
-TEST(ZTLogDeathTest, theProgramEndsWhenThereIsNoPlatform)
-{
+TEST(ZTLogDeathTest, theProgramEndsWhenThereIsNoPlatform) {
     EXPECT_DEATH(ZTLog("x"), "before a platform was installed");
 }

@@ -23,8 +23,7 @@ struct VersionRow {
     Ordering ordering;
 };
 
-TEST_F(ZTUtilitiesVersionsTest, versionsAreOrdered)
-{
+TEST_F(ZTUtilitiesVersionsTest, versionsAreOrdered) {
     const VersionRow rows[] = {
         {"same", u"2.1"_s, u"2.1"_s, Ordering::Same},
         {"a lettered build precedes its release", u"2.1b3"_s, u"2.1"_s, Ordering::Ascending},
@@ -50,8 +49,7 @@ TEST_F(ZTUtilitiesVersionsTest, versionsAreOrdered)
         EXPECT_EQ(ZTUtilities::compareVersion(row.a, row.b), row.ordering) << row.reason;
 }
 
-TEST_F(ZTUtilitiesVersionsTest, developmentStagesFollowTheirTable)
-{
+TEST_F(ZTUtilitiesVersionsTest, developmentStagesFollowTheirTable) {
     EXPECT_EQ(developmentStage(u'p'), 0);
     EXPECT_EQ(developmentStage(u'd'), 1);
     EXPECT_EQ(developmentStage(u'a'), 2);
@@ -61,8 +59,7 @@ TEST_F(ZTUtilitiesVersionsTest, developmentStagesFollowTheirTable)
     EXPECT_EQ(developmentStage(u'x'), 0);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, plainVersionsStopAtTheFirstOtherCharacter)
-{
+TEST_F(ZTUtilitiesVersionsTest, plainVersionsStopAtTheFirstOtherCharacter) {
     EXPECT_EQ(ZTUtilities::plainVersionOf(u"1.2.3b4"_s), u"1.2.3"_s);
     EXPECT_EQ(ZTUtilities::plainVersionOf(u"1.2.3 (5)"_s), u"1.2.3"_s);
     EXPECT_EQ(ZTUtilities::plainVersionOf(u"b2"_s), u""_s);
@@ -71,25 +68,21 @@ TEST_F(ZTUtilitiesVersionsTest, plainVersionsStopAtTheFirstOtherCharacter)
     EXPECT_EQ(ZTUtilities::plainVersionOf(whole).constData(), whole.constData());
 }
 
-TEST_F(ZTUtilitiesVersionsTest, theApplicationsOwnFactsComeFromItsBundle)
-{
-    platform.bundles.setMainBundle(
-        u"/x/Demo.app"_s,
-        {{u"CFBundleExecutable"_s, u"Demo"_s}, {u"CFBundleVersion"_s, u"1042b"_s}});
+TEST_F(ZTUtilitiesVersionsTest, theApplicationsOwnFactsComeFromItsBundle) {
+    platform.bundles.setMainBundle(u"/x/Demo.app"_s, {{u"CFBundleExecutable"_s, u"Demo"_s},
+                                                      {u"CFBundleVersion"_s, u"1042b"_s}});
     EXPECT_EQ(ZTUtilities::applicationName(), u"Demo"_s);
     EXPECT_EQ(ZTUtilities::versionString(), u"1042b"_s);
     EXPECT_EQ(ZTUtilities::plainVersionString(), u"1042"_s);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, missingBundleKeysAreEmptyTexts)
-{
+TEST_F(ZTUtilitiesVersionsTest, missingBundleKeysAreEmptyTexts) {
     platform.bundles.setMainBundle(u"/x/Demo.app"_s, {{u"CFBundleVersion"_s, 12}});
     EXPECT_EQ(ZTUtilities::applicationName(), u""_s);
     EXPECT_EQ(ZTUtilities::versionString(), u""_s);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, theSystemVersionHasThreeParts)
-{
+TEST_F(ZTUtilitiesVersionsTest, theSystemVersionHasThreeParts) {
     platform.systemVersion.major = 10;
     platform.systemVersion.minor = 13;
     platform.systemVersion.bugFix = 6;
@@ -99,8 +92,7 @@ TEST_F(ZTUtilitiesVersionsTest, theSystemVersionHasThreeParts)
     EXPECT_EQ(ZTUtilities::systemVersionString(), u"10.13"_s);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, aPartThatCannotBeReadIsLoggedAndZero)
-{
+TEST_F(ZTUtilitiesVersionsTest, aPartThatCannotBeReadIsLoggedAndZero) {
     platform.systemVersion.minor = std::nullopt;
     platform.systemVersion.bugFix = std::nullopt;
     EXPECT_EQ(ZTUtilities::threePartVersion(), (ZTUtilities::ThreePartVersion{12, 0, 0}));
@@ -108,8 +100,7 @@ TEST_F(ZTUtilitiesVersionsTest, aPartThatCannotBeReadIsLoggedAndZero)
                                                  u"cannot get bugfix version number"_s}));
 }
 
-TEST_F(ZTUtilitiesVersionsTest, thePackedWordStandsInForTheParts)
-{
+TEST_F(ZTUtilitiesVersionsTest, thePackedWordStandsInForTheParts) {
     platform.systemVersion.major = std::nullopt;
     platform.systemVersion.packed = 0x1094;
     EXPECT_EQ(ZTUtilities::threePartVersion(), (ZTUtilities::ThreePartVersion{10, 9, 4}));
@@ -120,15 +111,13 @@ TEST_F(ZTUtilitiesVersionsTest, thePackedWordStandsInForTheParts)
     EXPECT_EQ(ZTUtilities::hexSystemVersion(), 0x1094U);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, largePartsAreCutTo16Bits)
-{
+TEST_F(ZTUtilitiesVersionsTest, largePartsAreCutTo16Bits) {
     platform.systemVersion.major = 0x1000C;
     EXPECT_EQ(ZTUtilities::threePartVersion().major, 12);
 }
 
 // The only test that asks for the decimal version: the answer is kept for the whole process.
-TEST_F(ZTUtilitiesVersionsTest, theDecimalVersionIsKeptOnceItIsKnown)
-{
+TEST_F(ZTUtilitiesVersionsTest, theDecimalVersionIsKeptOnceItIsKnown) {
     platform.systemVersion.major = std::nullopt;
     platform.systemVersion.packed = std::nullopt;
     EXPECT_EQ(ZTUtilities::decimalSystemVersion(), 0);
@@ -140,8 +129,7 @@ TEST_F(ZTUtilitiesVersionsTest, theDecimalVersionIsKeptOnceItIsKnown)
     EXPECT_EQ(ZTUtilities::decimalSystemVersion(), 101306);
 }
 
-TEST_F(ZTUtilitiesVersionsTest, theSystemComparesWithAMinimum)
-{
+TEST_F(ZTUtilitiesVersionsTest, theSystemComparesWithAMinimum) {
     platform.systemVersion.major = 10;
     platform.systemVersion.minor = 15;
     platform.systemVersion.bugFix = 0;
@@ -159,8 +147,7 @@ struct PredicateRow {
     bool answerAt;
 };
 
-TEST_F(ZTUtilitiesVersionsTest, predicatesSwitchAtTheirFrameworkVersion)
-{
+TEST_F(ZTUtilitiesVersionsTest, predicatesSwitchAtTheirFrameworkVersion) {
     const PredicateRow rows[] = {
         {"panther or older", ZTUtilities::pantherOrOlder, 743.9, 744.0, true, false},
         {"leopard", ZTUtilities::leopardOrNewer, 824.9, 825.0, false, true},
@@ -184,20 +171,17 @@ TEST_F(ZTUtilitiesVersionsTest, predicatesSwitchAtTheirFrameworkVersion)
 
 class LocalizedDateTest : public ZTUtilitiesVersionsTest {
 protected:
-    ~LocalizedDateTest() override
-    {
+    ~LocalizedDateTest() override {
         QLocale::setDefault(QLocale::system());
         setZone("UTC");
     }
-    static void setZone(const char *zone)
-    {
+    static void setZone(const char *zone) {
         qputenv("TZ", zone);
         tzset();
     }
 };
 
-TEST_F(LocalizedDateTest, datesTakeTheLocalesShortForm)
-{
+TEST_F(LocalizedDateTest, datesTakeTheLocalesShortForm) {
     setZone("UTC");
     QLocale::setDefault(QLocale(u"en_US"_s));
     EXPECT_EQ(ZTUtilities::localizedDateString(u"2014-05-06"_s), u"5/6/14"_s);
@@ -205,15 +189,13 @@ TEST_F(LocalizedDateTest, datesTakeTheLocalesShortForm)
     EXPECT_EQ(ZTUtilities::localizedDateString(u"2014-05-06"_s), u"06.05.14"_s);
 }
 
-TEST_F(LocalizedDateTest, midnightUtcIsTheDayBeforeInTheWest)
-{
+TEST_F(LocalizedDateTest, midnightUtcIsTheDayBeforeInTheWest) {
     setZone("EST5");
     QLocale::setDefault(QLocale(u"en_US"_s));
     EXPECT_EQ(ZTUtilities::localizedDateString(u"2014-05-06"_s), u"5/5/14"_s);
 }
 
-TEST_F(LocalizedDateTest, whatIsNoDateIsAnEmptyText)
-{
+TEST_F(LocalizedDateTest, whatIsNoDateIsAnEmptyText) {
     for (const QString &text : {u""_s, u"soon"_s, u"2014-13-01"_s, u"2014-02-30"_s, u"6.5.2014"_s})
         EXPECT_EQ(ZTUtilities::localizedDateString(text), u""_s) << text.toStdString();
 }
