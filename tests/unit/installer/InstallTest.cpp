@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "tests/unit/installer/InstallerFixture.h"
+
+#include <QProgressBar>
+#include <QTabWidget>
+
+using namespace Qt::StringLiterals;
+
+class InstallTest : public InstallerFixture {
+protected:
+    QString destination() { return path(u"Applications/Demo.app"_s); }
+
+    void pressInstall() { field<QPushButton>("installButton")->click(); }
+
+    // Presses Install and waits for the outcome.
+    void install()
+    {
+        pressInstall();
+        waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+    }
+};
+
+TEST_F(InstallTest, theProductIsCopiedToItsPlace)
+{
+    start();
+    install();
+    EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
+    EXPECT_TRUE(QFileInfo::exists(product + u"/Contents/Linux/Demo"_s));
+    EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
+    EXPECT_EQ(platform.workspace.notedChanges, QStringList{destination()});
+    EXPECT_TRUE(platform.log.lines().contains(u"Install"_s));
+}
+
+TEST_F(InstallTest, anEarlierCopyGoesToTheTrash)
+{
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    start();
+    install();
+    EXPECT_TRUE(QFileInfo::exists(path(u"Trash/Demo.app/old"_s)));
+    EXPECT_FALSE(QFileInfo::exists(destination() + u"/old"_s));
+    EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
+}
+
+TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns)
+{
+    start();
+    pressInstall();
+    EXPECT_FALSE(field<QPushButton>("installButton")->isEnabled());
+    EXPECT_FALSE(field<QPushButton>("cancelButton")->isEnabled());
+    waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+    EXPECT_FALSE(shown("progressIndicator"));
+}
+
+TEST_F(InstallTest, anEarlierCopyThatCannotBeTrashedStaysAndIsReported)
+{
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    platform.trash.refuses = true;
+    start();
+    install();
+    EXPECT_EQ(text("messageField"),
+              u"Could not delete existing copy.\rTry installing Demo manually by copying it to the "
+              "Applications folder."_s);
+    EXPECT_TRUE(shown("messageField"));
+    EXPECT_TRUE(QFileInfo::exists(destination() + u"/old"_s));
+    EXPECT_TRUE(field<QPushButton>("cancelButton")->isEnabled());
+    EXPECT_EQ(title("installButton"), u"Install"_s);
+}
+
+TEST_F(InstallTest, aSecondTryCanSucceed)
+{
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    platform.trash.refuses = true;
+    start();
+    install();
+    platform.trash.refuses = false;
+    install();
+    EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
+    EXPECT_FALSE(shown("messageField"));
+    EXPECT_TRUE(QFileInfo::exists(path(u"Trash/Demo.app/old"_s)));
+}
+
+TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing)
+{
+    makeFile(u"Applications/Gone.app/old"_s, "old");
+    start({u"-sourcePath"_s, path(u"Disk/Gone.app"_s), u"-productCode"_s, u"DEMO"_s});
+    install();
+    EXPECT_TRUE(text("messageField").startsWith(u"Installation failed.\r"_s));
+    EXPECT_TRUE(QFileInfo::exists(path(u"Applications/Gone.app/old"_s)));
+    EXPECT_TRUE(platform.log.lines().contains(u"ERROR -- Could not copy myself to "_s +
+                                              path(u"Applications/Gone.app"_s)));
+}
+
+TEST_F(InstallTest, withAWrapperTheHintToCopyByHandIsLeftOut)
+{
+    makeFile(u"Disk/Suite/Demo.app/program"_s, "x");
+    makeFile(u"Applications/Suite/Demo.app/old"_s, "old");
+    platform.trash.refuses = true;
+    start({u"-sourcePath"_s, path(u"Disk/Suite/Demo.app"_s), u"-wrapperPath"_s,
+           path(u"Disk/Suite"_s), u"-productCode"_s, u"DEMO"_s});
+    install();
+    EXPECT_EQ(text("messageField"), u"Could not delete existing copy."_s);
+}
+
+TEST_F(InstallTest, onTheReadMePageTheButtonOnlyMovesOn)
+{
+    makeFile(u"ReadMe.txt"_s, "x");
+    start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
+    pressInstall();
+    EXPECT_EQ(field<QTabWidget>("tabView")->currentIndex(), InstallerWinController::MainPage);
+    EXPECT_TRUE(field<QPushButton>("installButton")->isEnabled());
+    EXPECT_FALSE(QFileInfo::exists(destination()));
+}
+
+TEST_F(InstallTest, cancelGoesBackToTheReadMe)
+{
+    makeFile(u"ReadMe.txt"_s, "x");
+    start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
+    controller().selectTab(InstallerWinController::MainPage);
+    EXPECT_FALSE(quits([this] { controller().cancel(); }));
+    EXPECT_EQ(field<QTabWidget>("tabView")->currentIndex(), InstallerWinController::ReadMePage);
+    EXPECT_TRUE(quits([this] { controller().cancel(); }));
+}
+
+TEST_F(InstallTest, cancelQuitsWithoutAReadMe)
+{
+    start();
+    EXPECT_TRUE(quits([this] { controller().cancel(); }));
+}
+
+TEST_F(InstallTest, afterSuccessTheButtonQuits)
+{
+    start();
+    install();
+    EXPECT_EQ(title("installButton"), u"OK"_s);
+    EXPECT_TRUE(quits([this] { pressInstall(); }));
+}
+
+TEST_F(InstallTest, afterASetUpErrorTheButtonQuits)
+{
+    platform.bundles.add(product, {});
+    start();
+    EXPECT_TRUE(quits([this] { pressInstall(); }));
+    EXPECT_FALSE(QFileInfo::exists(destination()));
+}
