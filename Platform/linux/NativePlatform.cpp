@@ -44,7 +44,7 @@ struct NativePlatform::Services {
     AutostartLoginItems loginItems{configurationFolder(), bundles};
     DesktopWorkspace workspace{{QString(), QDir::homePath()}, bundles};
     PortalAppearance appearance;
-    FreedesktopTrash trash;
+    FreedesktopTrash trash{FreedesktopTrash::rootsOfThisUser()};
     Platform platform{log,        clock,     bundles,    userDefaults, systemVersion,
                       loginItems, workspace, appearance, trash};
 };

@@ -206,7 +206,8 @@ INSTANTIATE_TEST_SUITE_P(
                                 textObject}),
             "((\"x\",\"x\"),(\"x\",\"x\"))"},
         Row{"wideReferences",
-            binaryPropertyList({QByteArray("\xA1\x00\x00\x00\x01", 5), textObject}, 4, 8), "(\"x\")"},
+            binaryPropertyList({QByteArray("\xA1\x00\x00\x00\x01", 5), textObject}, 4, 8),
+            "(\"x\")"},
         Row{"aTextEndsAtANullCharacter", binaryPropertyList({QByteArray("\x53p\0q", 4)}), "\"p\""}),
     rowName);
 

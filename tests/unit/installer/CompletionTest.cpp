@@ -8,14 +8,12 @@ using namespace std::chrono_literals;
 
 class CompletionTest : public InstallerFixture {
 protected:
-    void finish(const std::optional<QString> &message = std::nullopt)
-    {
+    void finish(const std::optional<QString> &message = std::nullopt) {
         controller().installationFinished(message);
     }
 };
 
-TEST_F(CompletionTest, successShowsOneMessageTheCheckMarkAndOneButton)
-{
+TEST_F(CompletionTest, successShowsOneMessageTheCheckMarkAndOneButton) {
     start();
     finish();
     EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
@@ -27,8 +25,7 @@ TEST_F(CompletionTest, successShowsOneMessageTheCheckMarkAndOneButton)
     EXPECT_FALSE(field<QPushButton>("cancelButton")->isEnabled());
 }
 
-TEST_F(CompletionTest, aFailureShowsItsMessageAndLeavesTheButtonsUsable)
-{
+TEST_F(CompletionTest, aFailureShowsItsMessageAndLeavesTheButtonsUsable) {
     start();
     finish(u"It failed.\rTry again."_s);
     EXPECT_EQ(text("messageField"), u"It failed.\rTry again."_s);
@@ -38,8 +35,7 @@ TEST_F(CompletionTest, aFailureShowsItsMessageAndLeavesTheButtonsUsable)
     EXPECT_TRUE(field<QPushButton>("cancelButton")->isEnabled());
 }
 
-TEST_F(CompletionTest, anEmptyMessageClearsTheField)
-{
+TEST_F(CompletionTest, anEmptyMessageClearsTheField) {
     start({u"-completionSound"_s, u"YES"_s});
     finish(u"It failed."_s);
     finish(u""_s);
@@ -55,8 +51,7 @@ struct SoundRow {
     int sounds;
 };
 
-TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly)
-{
+TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly) {
     const SoundRow rows[] = {
         {"asked for", {u"-completionSound"_s, u"YES"_s}, {}, 1},
         {"not asked for", {}, {}, 0},
@@ -80,8 +75,7 @@ TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly)
     }
 }
 
-TEST_F(CompletionTest, aTimedQuitComesAfterItsDelay)
-{
+TEST_F(CompletionTest, aTimedQuitComesAfterItsDelay) {
     start({u"-completionQuit"_s, u"2.5"_s});
     finish();
     EXPECT_TRUE(platform.log.lines().contains(u"quit delay: 2.5"_s));
@@ -89,45 +83,39 @@ TEST_F(CompletionTest, aTimedQuitComesAfterItsDelay)
     EXPECT_TRUE(quits([this] { platform.clock.advance(1ms); }));
 }
 
-TEST_F(CompletionTest, aTimedQuitComesAfterAFailureToo)
-{
+TEST_F(CompletionTest, aTimedQuitComesAfterAFailureToo) {
     start({u"-completionQuit"_s, u"1"_s});
     finish(u"It failed."_s);
     EXPECT_TRUE(quits([this] { platform.clock.advance(1s); }));
 }
 
-TEST_F(CompletionTest, withoutAPositiveDelayTheInstallerStays)
-{
+TEST_F(CompletionTest, withoutAPositiveDelayTheInstallerStays) {
     start({u"-completionQuit"_s, u"0"_s});
     finish();
     EXPECT_TRUE(platform.log.lines().contains(u"quit delay: 0.0"_s));
     EXPECT_FALSE(quits([this] { platform.clock.advance(24h); }));
 }
 
-TEST_F(CompletionTest, anUnreadableDelayIsZero)
-{
+TEST_F(CompletionTest, anUnreadableDelayIsZero) {
     start({u"-completionQuit"_s, u"soon"_s});
     finish();
     EXPECT_TRUE(platform.log.lines().contains(u"quit delay: 0.0"_s));
     EXPECT_FALSE(quits([this] { platform.clock.advance(24h); }));
 }
 
-TEST_F(CompletionTest, anEndlessDelayDoesNotWrapAround)
-{
+TEST_F(CompletionTest, anEndlessDelayDoesNotWrapAround) {
     start({u"-completionQuit"_s, u"1e99"_s});
     finish();
     EXPECT_FALSE(quits([this] { platform.clock.advance(24h); }));
 }
 
-TEST_F(CompletionTest, withoutTheArgumentThereIsNoDelay)
-{
+TEST_F(CompletionTest, withoutTheArgumentThereIsNoDelay) {
     start();
     finish();
     EXPECT_FALSE(platform.log.lines().join(u'\n').contains(u"quit delay"_s));
 }
 
-TEST_F(CompletionTest, theHelpButtonOpensTheDocumentation)
-{
+TEST_F(CompletionTest, theHelpButtonOpensTheDocumentation) {
     makeFile(u"Guide.html"_s, "<p>Guide</p>");
     start({u"-documentationPath"_s, path(u"Guide.html"_s)});
     field<QPushButton>("helpButton")->click();
@@ -135,8 +123,7 @@ TEST_F(CompletionTest, theHelpButtonOpensTheDocumentation)
     EXPECT_EQ(platform.workspace.beeps, 0);
 }
 
-TEST_F(CompletionTest, withoutDocumentationThereIsABeep)
-{
+TEST_F(CompletionTest, withoutDocumentationThereIsABeep) {
     start();
     controller().openDocumentation();
     EXPECT_EQ(platform.workspace.beeps, 1);

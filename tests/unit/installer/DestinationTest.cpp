@@ -13,13 +13,11 @@ protected:
 
     // Takes the right to write away, and gives it back at the end so that the folder can be
     // removed.
-    void makeReadOnly(const QString &relative)
-    {
+    void makeReadOnly(const QString &relative) {
         QFile::setPermissions(path(relative), QFile::ReadOwner | QFile::ExeOwner);
         m_readOnly << path(relative);
     }
-    ~DestinationTest() override
-    {
+    ~DestinationTest() override {
         for (const QString &item : m_readOnly)
             QFile::setPermissions(item, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
@@ -28,11 +26,9 @@ private:
     QStringList m_readOnly;
 };
 
-TEST_F(DestinationTest, aLoginItemThatBeginsWithTheNameIsWhereTheProductIsKept)
-{
-    platform.loginItems.paths =
-        Paths{std::nullopt, u"/a/Other.app"_s, u"/Applications/Tools/Demo Beta.app"_s,
-              u"/b/Demo.app"_s};
+TEST_F(DestinationTest, aLoginItemThatBeginsWithTheNameIsWhereTheProductIsKept) {
+    platform.loginItems.paths = Paths{std::nullopt, u"/a/Other.app"_s,
+                                      u"/Applications/Tools/Demo Beta.app"_s, u"/b/Demo.app"_s};
     EXPECT_EQ(controller().autoLaunchPathFor(u"Demo"_s), u"/Applications/Tools/Demo Beta.app"_s);
     EXPECT_EQ(controller().findPreferredDestinationFor(u"Demo"_s),
               u"/Applications/Tools/Demo Beta.app"_s);
@@ -40,8 +36,7 @@ TEST_F(DestinationTest, aLoginItemThatBeginsWithTheNameIsWhereTheProductIsKept)
               QStringList{u"autolaunch = /Applications/Tools/Demo Beta.app"_s});
 }
 
-TEST_F(DestinationTest, withoutAMatchingLoginItemThereIsNoPreference)
-{
+TEST_F(DestinationTest, withoutAMatchingLoginItemThereIsNoPreference) {
     EXPECT_EQ(controller().autoLaunchPathFor(u"Demo"_s), std::nullopt);
     platform.loginItems.paths = Paths{};
     EXPECT_EQ(controller().autoLaunchPathFor(u"Demo"_s), std::nullopt);
@@ -50,14 +45,12 @@ TEST_F(DestinationTest, withoutAMatchingLoginItemThereIsNoPreference)
     EXPECT_EQ(platform.log.lines(), QStringList{u"autolaunch = (null)"_s});
 }
 
-TEST_F(DestinationTest, aLoginItemInATrashFolderIsIgnored)
-{
+TEST_F(DestinationTest, aLoginItemInATrashFolderIsIgnored) {
     platform.loginItems.paths = Paths{u"/home/x/.local/share/Trash/files/Demo.app"_s};
     EXPECT_EQ(controller().findPreferredDestinationFor(u"Demo"_s), std::nullopt);
 }
 
-TEST_F(DestinationTest, someFoldersNeverCount)
-{
+TEST_F(DestinationTest, someFoldersNeverCount) {
     const std::pair<const char *, bool> rows[] = {
         {"/Users/me/wex/Demo/build/Demo.app", true},
         {"/Users/me/Demo/build/Demo.app", false},
@@ -79,16 +72,14 @@ TEST_F(DestinationTest, someFoldersNeverCount)
     EXPECT_FALSE(controller().isInUnsupportedFolder(std::nullopt));
 }
 
-TEST_F(DestinationTest, aWritableSystemFolderComesFirst)
-{
+TEST_F(DestinationTest, aWritableSystemFolderComesFirst) {
     platform.workspace.localApplications = {u"/first/is/not/asked"_s, path(u"Applications"_s)};
     platform.workspace.userApplications = {path(u"Trash"_s)};
     EXPECT_EQ(controller().applicationsDirectory(), path(u"Applications"_s));
     EXPECT_TRUE(platform.log.lines().isEmpty());
 }
 
-TEST_F(DestinationTest, theUsersOwnFolderComesNextWhenItExists)
-{
+TEST_F(DestinationTest, theUsersOwnFolderComesNextWhenItExists) {
     platform.workspace.localApplications = {path(u"missing"_s)};
     platform.workspace.userApplications = {path(u"Own"_s)};
     EXPECT_EQ(controller().applicationsDirectory(), path(u"missing"_s));
@@ -100,29 +91,25 @@ TEST_F(DestinationTest, theUsersOwnFolderComesNextWhenItExists)
                            u"User applicationsDirectory: "_s + path(u"Own"_s)}));
 }
 
-TEST_F(DestinationTest, withoutAUsersFolderTheSystemOneIsAnsweredAllTheSame)
-{
+TEST_F(DestinationTest, withoutAUsersFolderTheSystemOneIsAnsweredAllTheSame) {
     platform.workspace.localApplications = {path(u"missing"_s)};
     EXPECT_EQ(controller().applicationsDirectory(), path(u"missing"_s));
     EXPECT_TRUE(platform.log.lines().contains(u"User applicationsDirectory: (null)"_s));
 }
 
-TEST_F(DestinationTest, aTildeInAFolderIsTheHomeFolder)
-{
+TEST_F(DestinationTest, aTildeInAFolderIsTheHomeFolder) {
     platform.workspace.localApplications = {u"~"_s};
     EXPECT_EQ(controller().applicationsDirectory(), QDir::homePath());
 }
 
-TEST_F(DestinationTest, theNearestExistingFolderDecidesWhetherAPathCanBeWritten)
-{
+TEST_F(DestinationTest, theNearestExistingFolderDecidesWhetherAPathCanBeWritten) {
     EXPECT_TRUE(controller().canWriteToPath(path(u"a/b/c/Demo.app"_s)));
     EXPECT_TRUE(controller().canWriteToPath(path(u"Applications/Demo.app"_s)));
     EXPECT_TRUE(controller().canWriteToPath(product));
     EXPECT_TRUE(platform.log.lines().isEmpty());
 }
 
-TEST_F(DestinationTest, whatCannotBeWrittenIsLogged)
-{
+TEST_F(DestinationTest, whatCannotBeWrittenIsLogged) {
     EXPECT_FALSE(controller().canWriteToPath(u"/proc/version"_s));
     EXPECT_FALSE(controller().canWriteToPath(u"/proc/no/such/Demo.app"_s));
     EXPECT_FALSE(controller().canWriteToPath(u"Demo.app"_s));
@@ -134,8 +121,7 @@ TEST_F(DestinationTest, whatCannotBeWrittenIsLogged)
     EXPECT_EQ(lines.at(2), u"Cannot write to folder "_s);
 }
 
-TEST_F(DestinationTest, aReadOnlyFolderIsNotWritable)
-{
+TEST_F(DestinationTest, aReadOnlyFolderIsNotWritable) {
     if (geteuid() == 0)
         GTEST_SKIP() << "root may write everywhere";
     makeReadOnly(u"Applications"_s);
@@ -144,14 +130,12 @@ TEST_F(DestinationTest, aReadOnlyFolderIsNotWritable)
     EXPECT_FALSE(controller().canWriteToFileOrDirectory(path(u"Applications"_s)));
 }
 
-TEST_F(DestinationTest, aMissingItemIsNotWritable)
-{
+TEST_F(DestinationTest, aMissingItemIsNotWritable) {
     EXPECT_FALSE(controller().canWriteToFileOrDirectory(path(u"missing"_s)));
     EXPECT_TRUE(controller().canWriteToFileOrDirectory(path(u"Applications"_s)));
 }
 
-TEST_F(DestinationTest, probingAFileCreatesAndChangesNothing)
-{
+TEST_F(DestinationTest, probingAFileCreatesAndChangesNothing) {
     makeFile(u"letter"_s, "content");
     EXPECT_TRUE(controller().canWriteToFile(path(u"letter"_s)));
     EXPECT_FALSE(controller().canWriteToFile(path(u"missing"_s)));
@@ -160,15 +144,13 @@ TEST_F(DestinationTest, probingAFileCreatesAndChangesNothing)
     EXPECT_EQ(QFileInfo(path(u"letter"_s)).size(), 7);
 }
 
-TEST_F(DestinationTest, probingAFolderLeavesNothingBehind)
-{
+TEST_F(DestinationTest, probingAFolderLeavesNothingBehind) {
     EXPECT_TRUE(controller().canWriteToDirectory(path(u"Applications"_s)));
     EXPECT_TRUE(QDir(path(u"Applications"_s)).isEmpty());
     EXPECT_FALSE(controller().canWriteToDirectory(path(u"missing"_s)));
 }
 
-TEST_F(DestinationTest, aProbeNeverTouchesAFileThatIsThere)
-{
+TEST_F(DestinationTest, aProbeNeverTouchesAFileThatIsThere) {
     // The next number is known, so its name can be taken already.
     srandom(1);
     const auto taken = QStringLiteral("Applications/temp-%1")
@@ -179,16 +161,14 @@ TEST_F(DestinationTest, aProbeNeverTouchesAFileThatIsThere)
     EXPECT_EQ(QFileInfo(path(taken)).size(), 8);
 }
 
-TEST_F(DestinationTest, pathsShowEveryFolderUnderItsLocalizedName)
-{
+TEST_F(DestinationTest, pathsShowEveryFolderUnderItsLocalizedName) {
     platform.workspace.displayNames = {{u"/Applications"_s, u"Programme"_s},
                                        {u"/Applications/Demo.app"_s, u"Demo"_s}};
     EXPECT_EQ(controller().localizedPath(u"/Applications/Demo.app"_s), u"/Programme/Demo"_s);
     EXPECT_EQ(controller().localizedPath(u"/Applications"_s), u"/Programme"_s);
 }
 
-TEST_F(DestinationTest, theHomeFolderShowsAsATilde)
-{
+TEST_F(DestinationTest, theHomeFolderShowsAsATilde) {
     const QString home = QDir::homePath();
     platform.workspace.displayNames = {{home + u"/Applications"_s, u"Programme"_s}};
     EXPECT_EQ(controller().localizedPath(home + u"/Applications/x"_s), u"~/Programme/x"_s);
@@ -196,8 +176,7 @@ TEST_F(DestinationTest, theHomeFolderShowsAsATilde)
     EXPECT_EQ(controller().localizedPath(home + u"work/x"_s), home + u"work/x"_s);
 }
 
-TEST_F(DestinationTest, veryShortPathsStayAsTheyAre)
-{
+TEST_F(DestinationTest, veryShortPathsStayAsTheyAre) {
     platform.workspace.displayNames = {{u"/a"_s, u"Alpha"_s}};
     EXPECT_EQ(controller().localizedPath(u"/"_s), u"/"_s);
     EXPECT_EQ(controller().localizedPath(u"/a"_s), u"/a"_s);

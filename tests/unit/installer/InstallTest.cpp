@@ -15,15 +15,13 @@ protected:
     void pressInstall() { field<QPushButton>("installButton")->click(); }
 
     // Presses Install and waits for the outcome.
-    void install()
-    {
+    void install() {
         pressInstall();
         waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
     }
 };
 
-TEST_F(InstallTest, theProductIsCopiedToItsPlace)
-{
+TEST_F(InstallTest, theProductIsCopiedToItsPlace) {
     start();
     install();
     EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
@@ -33,8 +31,7 @@ TEST_F(InstallTest, theProductIsCopiedToItsPlace)
     EXPECT_TRUE(platform.log.lines().contains(u"Install"_s));
 }
 
-TEST_F(InstallTest, anEarlierCopyGoesToTheTrash)
-{
+TEST_F(InstallTest, anEarlierCopyGoesToTheTrash) {
     makeFile(u"Applications/Demo.app/old"_s, "old");
     start();
     install();
@@ -43,8 +40,7 @@ TEST_F(InstallTest, anEarlierCopyGoesToTheTrash)
     EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
 }
 
-TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns)
-{
+TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns) {
     start();
     pressInstall();
     EXPECT_FALSE(field<QPushButton>("installButton")->isEnabled());
@@ -53,8 +49,7 @@ TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns)
     EXPECT_FALSE(shown("progressIndicator"));
 }
 
-TEST_F(InstallTest, anEarlierCopyThatCannotBeTrashedStaysAndIsReported)
-{
+TEST_F(InstallTest, anEarlierCopyThatCannotBeTrashedStaysAndIsReported) {
     makeFile(u"Applications/Demo.app/old"_s, "old");
     platform.trash.refuses = true;
     start();
@@ -68,8 +63,7 @@ TEST_F(InstallTest, anEarlierCopyThatCannotBeTrashedStaysAndIsReported)
     EXPECT_EQ(title("installButton"), u"Install"_s);
 }
 
-TEST_F(InstallTest, aSecondTryCanSucceed)
-{
+TEST_F(InstallTest, aSecondTryCanSucceed) {
     makeFile(u"Applications/Demo.app/old"_s, "old");
     platform.trash.refuses = true;
     start();
@@ -81,8 +75,7 @@ TEST_F(InstallTest, aSecondTryCanSucceed)
     EXPECT_TRUE(QFileInfo::exists(path(u"Trash/Demo.app/old"_s)));
 }
 
-TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing)
-{
+TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing) {
     makeFile(u"Applications/Gone.app/old"_s, "old");
     start({u"-sourcePath"_s, path(u"Disk/Gone.app"_s), u"-productCode"_s, u"DEMO"_s});
     install();
@@ -92,8 +85,7 @@ TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing)
                                               path(u"Applications/Gone.app"_s)));
 }
 
-TEST_F(InstallTest, withAWrapperTheHintToCopyByHandIsLeftOut)
-{
+TEST_F(InstallTest, withAWrapperTheHintToCopyByHandIsLeftOut) {
     makeFile(u"Disk/Suite/Demo.app/program"_s, "x");
     makeFile(u"Applications/Suite/Demo.app/old"_s, "old");
     platform.trash.refuses = true;
@@ -103,8 +95,7 @@ TEST_F(InstallTest, withAWrapperTheHintToCopyByHandIsLeftOut)
     EXPECT_EQ(text("messageField"), u"Could not delete existing copy."_s);
 }
 
-TEST_F(InstallTest, onTheReadMePageTheButtonOnlyMovesOn)
-{
+TEST_F(InstallTest, onTheReadMePageTheButtonOnlyMovesOn) {
     makeFile(u"ReadMe.txt"_s, "x");
     start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
     pressInstall();
@@ -113,8 +104,7 @@ TEST_F(InstallTest, onTheReadMePageTheButtonOnlyMovesOn)
     EXPECT_FALSE(QFileInfo::exists(destination()));
 }
 
-TEST_F(InstallTest, cancelGoesBackToTheReadMe)
-{
+TEST_F(InstallTest, cancelGoesBackToTheReadMe) {
     makeFile(u"ReadMe.txt"_s, "x");
     start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
     controller().selectTab(InstallerWinController::MainPage);
@@ -123,22 +113,19 @@ TEST_F(InstallTest, cancelGoesBackToTheReadMe)
     EXPECT_TRUE(quits([this] { controller().cancel(); }));
 }
 
-TEST_F(InstallTest, cancelQuitsWithoutAReadMe)
-{
+TEST_F(InstallTest, cancelQuitsWithoutAReadMe) {
     start();
     EXPECT_TRUE(quits([this] { controller().cancel(); }));
 }
 
-TEST_F(InstallTest, afterSuccessTheButtonQuits)
-{
+TEST_F(InstallTest, afterSuccessTheButtonQuits) {
     start();
     install();
     EXPECT_EQ(title("installButton"), u"OK"_s);
     EXPECT_TRUE(quits([this] { pressInstall(); }));
 }
 
-TEST_F(InstallTest, afterASetUpErrorTheButtonQuits)
-{
+TEST_F(InstallTest, afterASetUpErrorTheButtonQuits) {
     platform.bundles.add(product, {});
     start();
     EXPECT_TRUE(quits([this] { pressInstall(); }));

@@ -16,8 +16,7 @@ using namespace Qt::StringLiterals;
 
 class InstallerArgumentsTest : public testing::Test {
 protected:
-    static QVariantMap parse(const QStringList &arguments)
-    {
+    static QVariantMap parse(const QStringList &arguments) {
         return InstallerArguments::parse(QStringList{u"/x/installer"_s} + arguments);
     }
 
@@ -30,8 +29,7 @@ struct ParseRow {
     QVariantMap expected; // beside the program's path under the empty key
 };
 
-TEST_F(InstallerArgumentsTest, keysTakeTheValuesBehindThem)
-{
+TEST_F(InstallerArgumentsTest, keysTakeTheValuesBehindThem) {
     const ParseRow rows[] = {
         {"nothing", {}, {}},
         {"one value", {u"-version"_s, u"2.0"_s}, {{u"version"_s, u"2.0"_s}}},
@@ -69,21 +67,18 @@ TEST_F(InstallerArgumentsTest, keysTakeTheValuesBehindThem)
     }
 }
 
-TEST_F(InstallerArgumentsTest, valuesBeforeTheFirstKeyAreUnderTheEmptyKey)
-{
+TEST_F(InstallerArgumentsTest, valuesBeforeTheFirstKeyAreUnderTheEmptyKey) {
     EXPECT_EQ(parse({u"one"_s, u"two"_s}), (QVariantMap{{u""_s, u"two"_s}}));
     EXPECT_EQ(parse({u"-"_s, u"lone"_s}), (QVariantMap{{u""_s, u"lone"_s}}));
 }
 
-TEST_F(InstallerArgumentsTest, theWholeVectorIsLogged)
-{
+TEST_F(InstallerArgumentsTest, theWholeVectorIsLogged) {
     parse({u"-version"_s, u"2 0"_s});
     EXPECT_EQ(platform.log.lines(),
               QStringList{u"arguments: (\"/x/installer\", \"-version\", \"2 0\")"_s});
 }
 
-TEST_F(InstallerArgumentsTest, theSourceIsTheInnermostBundleAroundTheInstaller)
-{
+TEST_F(InstallerArgumentsTest, theSourceIsTheInnermostBundleAroundTheInstaller) {
     QVariantMap arguments;
     EXPECT_TRUE(InstallerArguments::completeSourcePath(
         arguments, u"/d/Outer.app/Inner.app/Contents/Resources/Installer.app"_s));
@@ -93,8 +88,7 @@ TEST_F(InstallerArgumentsTest, theSourceIsTheInnermostBundleAroundTheInstaller)
                            u"shortened path = /d/Outer.app/Inner.app"_s}));
 }
 
-TEST_F(InstallerArgumentsTest, anInstallerInNoBundleHasNoSource)
-{
+TEST_F(InstallerArgumentsTest, anInstallerInNoBundleHasNoSource) {
     QVariantMap arguments;
     EXPECT_FALSE(InstallerArguments::completeSourcePath(arguments, u"/d/Installer.app"_s));
     EXPECT_FALSE(InstallerArguments::completeSourcePath(arguments, u"/Installer.app"_s));
@@ -102,15 +96,13 @@ TEST_F(InstallerArgumentsTest, anInstallerInNoBundleHasNoSource)
     EXPECT_TRUE(arguments.isEmpty());
 }
 
-TEST_F(InstallerArgumentsTest, aGivenSourceIsUsedAsItIs)
-{
+TEST_F(InstallerArgumentsTest, aGivenSourceIsUsedAsItIs) {
     QVariantMap arguments{{ZTInstallerKeySourcePath, u"/d/folder"_s}};
     EXPECT_TRUE(InstallerArguments::completeSourcePath(arguments, u"/d/A.app/Installer.app"_s));
     EXPECT_EQ(arguments.value(ZTInstallerKeySourcePath), u"/d/folder"_s);
 }
 
-TEST_F(InstallerArgumentsTest, theNameIsTheSourcesWithoutItsExtension)
-{
+TEST_F(InstallerArgumentsTest, theNameIsTheSourcesWithoutItsExtension) {
     QVariantMap arguments{{ZTInstallerKeySourcePath, u"/d/Sample Notes.app"_s}};
     EXPECT_TRUE(InstallerArguments::completeProductName(arguments));
     EXPECT_EQ(arguments.value(ZTInstallerKeyProductName), u"Sample Notes"_s);
@@ -118,8 +110,7 @@ TEST_F(InstallerArgumentsTest, theNameIsTheSourcesWithoutItsExtension)
     EXPECT_FALSE(InstallerArguments::completeProductName(nameless));
 }
 
-TEST_F(InstallerArgumentsTest, versionsComeFromTheArgumentsThenFromTheProduct)
-{
+TEST_F(InstallerArgumentsTest, versionsComeFromTheArgumentsThenFromTheProduct) {
     platform.bundles.add(u"/d/A.app"_s, {{u"CFBundleShortVersionString"_s, u"1.0"_s},
                                          {u"LSMinimumSystemVersion"_s, u"11"_s}});
     const auto product = platform.bundles.bundleAtPath(u"/d/A.app"_s);
@@ -134,8 +125,7 @@ TEST_F(InstallerArgumentsTest, versionsComeFromTheArgumentsThenFromTheProduct)
 
 class InstallerDestinationTest : public InstallerArgumentsTest {
 protected:
-    InstallerDestinationTest()
-    {
+    InstallerDestinationTest() {
         QDir().mkpath(folder.filePath(u"Disk/Product"_s));
         QDir().mkpath(folder.filePath(u"Applications"_s));
         QDir().mkpath(folder.filePath(u"Elsewhere"_s));
@@ -143,8 +133,7 @@ protected:
                      {ZTInstallerKeyProductName, u"Product"_s}};
     }
     QString path(const QString &relative) const { return folder.filePath(relative); }
-    QString complete()
-    {
+    QString complete() {
         InstallerArguments::completeDestination(
             arguments, {.preferredDestination =
                             [this](const QString &name) {
@@ -161,22 +150,19 @@ protected:
     QStringList asked;
 };
 
-TEST_F(InstallerDestinationTest, aGivenDestinationStaysWhenItsParentExists)
-{
+TEST_F(InstallerDestinationTest, aGivenDestinationStaysWhenItsParentExists) {
     arguments[ZTInstallerKeyDestinationPath] = path(u"Elsewhere/Other.app"_s);
     EXPECT_EQ(complete(), path(u"Elsewhere/Other.app"_s));
     EXPECT_TRUE(asked.isEmpty());
 }
 
-TEST_F(InstallerDestinationTest, thePreferredDestinationIsAskedForByName)
-{
+TEST_F(InstallerDestinationTest, thePreferredDestinationIsAskedForByName) {
     preferred = path(u"Elsewhere/Product.app"_s);
     EXPECT_EQ(complete(), path(u"Elsewhere/Product.app"_s));
     EXPECT_EQ(asked, QStringList{u"Product"_s});
 }
 
-TEST_F(InstallerDestinationTest, theApplicationsFolderStandsInForAllElse)
-{
+TEST_F(InstallerDestinationTest, theApplicationsFolderStandsInForAllElse) {
     const QString fallback = path(u"Applications/Product.app"_s);
     EXPECT_EQ(complete(), fallback);
     arguments[ZTInstallerKeyDestinationPath] = path(u"Missing/Product.app"_s);
@@ -191,24 +177,21 @@ TEST_F(InstallerDestinationTest, theApplicationsFolderStandsInForAllElse)
     EXPECT_EQ(complete(), fallback);
 }
 
-TEST_F(InstallerDestinationTest, aWrapperIsRecreatedAroundTheProduct)
-{
+TEST_F(InstallerDestinationTest, aWrapperIsRecreatedAroundTheProduct) {
     arguments[ZTInstallerKeyWrapperPath] = path(u"Disk/Product"_s);
     EXPECT_EQ(complete(), path(u"Applications/Product/Product.app"_s));
     EXPECT_EQ(arguments.value(ZTInstallerKeyWrapperPath), path(u"Disk/Product"_s));
     EXPECT_EQ(platform.log.lines(), QStringList{u"wrapper = "_s + path(u"Disk/Product"_s)});
 }
 
-TEST_F(InstallerDestinationTest, aDestinationInsideTheWrapperStays)
-{
+TEST_F(InstallerDestinationTest, aDestinationInsideTheWrapperStays) {
     QDir().mkpath(path(u"Applications/Product"_s));
     arguments[ZTInstallerKeyWrapperPath] = path(u"Disk/Product"_s);
     arguments[ZTInstallerKeyDestinationPath] = path(u"Applications/Product/Product.app"_s);
     EXPECT_EQ(complete(), path(u"Applications/Product/Product.app"_s));
 }
 
-TEST_F(InstallerDestinationTest, aWrapperElsewhereOrMissingIsDroppedSilently)
-{
+TEST_F(InstallerDestinationTest, aWrapperElsewhereOrMissingIsDroppedSilently) {
     for (const QString &wrapper : {path(u"Elsewhere"_s), path(u"Disk/Product/missing"_s), u""_s}) {
         arguments[ZTInstallerKeyWrapperPath] = wrapper;
         EXPECT_EQ(complete(), path(u"Applications/Product.app"_s)) << wrapper.toStdString();
@@ -217,8 +200,7 @@ TEST_F(InstallerDestinationTest, aWrapperElsewhereOrMissingIsDroppedSilently)
     EXPECT_TRUE(platform.log.lines().isEmpty());
 }
 
-TEST_F(InstallerDestinationTest, documentationThatDoesNotExistIsDropped)
-{
+TEST_F(InstallerDestinationTest, documentationThatDoesNotExistIsDropped) {
     arguments[ZTInstallerKeyDocumentationPath] = path(u"Missing.html"_s);
     InstallerArguments::completeDocumentation(arguments);
     EXPECT_FALSE(arguments.contains(ZTInstallerKeyDocumentationPath));
@@ -229,15 +211,13 @@ TEST_F(InstallerDestinationTest, documentationThatDoesNotExistIsDropped)
 
 class InstallerCodesTest : public InstallerArgumentsTest {
 protected:
-    std::optional<zt::Bundle> product(const QVariantMap &information)
-    {
+    std::optional<zt::Bundle> product(const QVariantMap &information) {
         platform.bundles.add(u"/d/A.app"_s, information);
         return platform.bundles.bundleAtPath(u"/d/A.app"_s);
     }
 };
 
-TEST_F(InstallerCodesTest, givenCodesComeBeforeTheProductsSignature)
-{
+TEST_F(InstallerCodesTest, givenCodesComeBeforeTheProductsSignature) {
     QVariantMap arguments =
         parse({u"-productCode"_s, u"ABCD"_s, u"EFGH"_s, u"-quitCode"_s, u"WXYZ"_s});
     EXPECT_TRUE(InstallerArguments::completeProductCodes(
@@ -248,28 +228,26 @@ TEST_F(InstallerCodesTest, givenCodesComeBeforeTheProductsSignature)
               (QStringList{u"WXYZ"_s, u"ABCD"_s, u"EFGH"_s}));
 }
 
-TEST_F(InstallerCodesTest, theSignatureStandsInForCodes)
-{
+TEST_F(InstallerCodesTest, theSignatureStandsInForCodes) {
     QVariantMap arguments;
     EXPECT_TRUE(InstallerArguments::completeProductCodes(
         arguments, product({{u"CFBundleSignature"_s, u"QRST"_s}})));
     InstallerArguments::completeQuitCodes(arguments);
     EXPECT_EQ(arguments.value(ZTInstallerKeyProductCode), QStringList{u"QRST"_s});
     EXPECT_EQ(arguments.value(ZTInstallerKeyQuitCode), QStringList{u"QRST"_s});
-    EXPECT_EQ(platform.log.lines(),
-              QStringList{
-                  u"Updated arguments: {\"productCode\" = (\"QRST\"); \"quitCode\" = (\"QRST\"); }"_s});
+    EXPECT_EQ(
+        platform.log.lines(),
+        QStringList{
+            u"Updated arguments: {\"productCode\" = (\"QRST\"); \"quitCode\" = (\"QRST\"); }"_s});
 }
 
-TEST_F(InstallerCodesTest, duplicateQuitCodesStay)
-{
+TEST_F(InstallerCodesTest, duplicateQuitCodesStay) {
     QVariantMap arguments = parse({u"-productCode"_s, u"ABCD"_s, u"-quitCode"_s, u"ABCD"_s});
     InstallerArguments::completeQuitCodes(arguments);
     EXPECT_EQ(arguments.value(ZTInstallerKeyQuitCode), (QStringList{u"ABCD"_s, u"ABCD"_s}));
 }
 
-TEST_F(InstallerCodesTest, withoutCodesAndSignatureThereIsNone)
-{
+TEST_F(InstallerCodesTest, withoutCodesAndSignatureThereIsNone) {
     QVariantMap arguments;
     EXPECT_FALSE(InstallerArguments::completeProductCodes(arguments, std::nullopt));
     EXPECT_FALSE(InstallerArguments::completeProductCodes(arguments, product({})));

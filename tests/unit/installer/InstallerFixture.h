@@ -21,8 +21,7 @@
 
 class InstallerFixture : public testing::Test {
 protected:
-    InstallerFixture()
-    {
+    InstallerFixture() {
         using namespace Qt::StringLiterals;
         makeFile(u"Disk/Demo.app/Contents/Linux/Demo"_s, "program");
         makeFolder(u"Applications"_s);
@@ -39,8 +38,7 @@ protected:
 
     void makeFolder(const QString &relative) { QDir().mkpath(path(relative)); }
 
-    void makeFile(const QString &relative, const QByteArray &content)
-    {
+    void makeFile(const QString &relative, const QByteArray &content) {
         QDir().mkpath(QFileInfo(path(relative)).path());
         QFile file(path(relative));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -48,29 +46,27 @@ protected:
     }
 
     // Makes the controller with the arguments behind the program's name. Does not start it up.
-    InstallerWinController &controller(const QStringList &arguments = {})
-    {
+    InstallerWinController &controller(const QStringList &arguments = {}) {
         if (!m_controller) {
-            m_controller = std::make_unique<InstallerWinController>(
-                InstallerWinController::Environment{
+            m_controller =
+                std::make_unique<InstallerWinController>(InstallerWinController::Environment{
                     .platform = platform.services,
                     .argumentVector = QStringList{QStringLiteral("installer")} + arguments,
-                    .redirectStandardStreams =
-                        [this](const QString &file) { redirectedTo << file; }});
+                    .redirectStandardStreams = [this](const QString &file) {
+                        redirectedTo << file;
+                    }});
         }
         return *m_controller;
     }
 
     // The same, started up.
-    InstallerWinController &start(const QStringList &arguments = {})
-    {
+    InstallerWinController &start(const QStringList &arguments = {}) {
         controller(arguments).awakeFromNib();
         return *m_controller;
     }
 
     template <typename View = QLabel>
-    View *field(const char *name)
-    {
+    View *field(const char *name) {
         auto *view = m_controller->window().findChild<View *>(QString::fromLatin1(name));
         EXPECT_NE(view, nullptr) << name;
         return view;
@@ -83,16 +79,14 @@ protected:
 
     // Runs the event loop until the condition holds; the test's own time limit ends a failure.
     template <typename Condition>
-    void waitUntil(Condition condition)
-    {
+    void waitUntil(Condition condition) {
         while (!condition())
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
     }
 
     // Whether the action makes the application quit.
     template <typename Action>
-    bool quits(Action action)
-    {
+    bool quits(Action action) {
         constexpr int stayed = 77;
         QTimer::singleShot(0, &m_controller->window(), action);
         QTimer::singleShot(50, &m_controller->window(), [] { QApplication::exit(stayed); });

@@ -17,8 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Redirects in a process of its own, since the test needs its streams, and writes a line to each.
-void writeRedirected(const QString &path)
-{
+void writeRedirected(const QString &path) {
     const pid_t child = fork();
     if (child == 0) {
         redirectStandardStreams(path);
@@ -32,16 +31,14 @@ void writeRedirected(const QString &path)
     EXPECT_EQ(status, 0);
 }
 
-QByteArray contentOf(const QString &path)
-{
+QByteArray contentOf(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
 }
 
 } // namespace
 
-TEST(LogRedirectionTest, itTakesTwoArgumentsThatDoNotBeginWithALanguage)
-{
+TEST(LogRedirectionTest, itTakesTwoArgumentsThatDoNotBeginWithALanguage) {
     EXPECT_FALSE(shouldRedirectLog({}));
     EXPECT_FALSE(shouldRedirectLog({u"x"_s}));
     EXPECT_FALSE(shouldRedirectLog({u"x"_s, u"-productName"_s}));
@@ -50,8 +47,7 @@ TEST(LogRedirectionTest, itTakesTwoArgumentsThatDoNotBeginWithALanguage)
     EXPECT_TRUE(shouldRedirectLog({u"x"_s, u"-version"_s, u"-AppleLanguages"_s}));
 }
 
-TEST(LogRedirectionTest, bothStreamsAreAppendedToTheFileInFoldersThatAreMade)
-{
+TEST(LogRedirectionTest, bothStreamsAreAppendedToTheFileInFoldersThatAreMade) {
     const QTemporaryDir folder;
     const QString log = folder.filePath(u"Library/Logs/Test.log"_s);
     writeRedirected(log);
@@ -59,8 +55,7 @@ TEST(LogRedirectionTest, bothStreamsAreAppendedToTheFileInFoldersThatAreMade)
     EXPECT_EQ(contentOf(log), "to output\nto error\nto output\nto error\n");
 }
 
-TEST(LogRedirectionTest, aFileThatCannotBeWrittenDropsTheLines)
-{
+TEST(LogRedirectionTest, aFileThatCannotBeWrittenDropsTheLines) {
     const QTemporaryDir folder;
     writeRedirected(folder.path());
     EXPECT_TRUE(QFile::exists(folder.path()));

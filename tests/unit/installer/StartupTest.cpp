@@ -18,36 +18,32 @@ protected:
     QMessageBox *findAlert() { return controller().window().findChild<QMessageBox *>(); }
 };
 
-TEST_F(StartupTest, theLogIsRedirectedWhenAProductStartsTheInstaller)
-{
+TEST_F(StartupTest, theLogIsRedirectedWhenAProductStartsTheInstaller) {
     start({u"-productName"_s, u"Demo"_s});
-    EXPECT_EQ(redirectedTo, QStringList{QDir::homePath() + u"/Library/Logs/VelmoraInstaller.log"_s});
+    EXPECT_EQ(redirectedTo,
+              QStringList{QDir::homePath() + u"/Library/Logs/VelmoraInstaller.log"_s});
     EXPECT_FALSE(platform.log.lines().contains(u"direct invocation"_s));
 }
 
-TEST_F(StartupTest, aStartByHandLeavesTheStreamsAlone)
-{
+TEST_F(StartupTest, aStartByHandLeavesTheStreamsAlone) {
     start({u"-productName"_s});
     EXPECT_TRUE(redirectedTo.isEmpty());
     EXPECT_EQ(platform.log.lines().first(), u"direct invocation"_s);
 }
 
-TEST_F(StartupTest, aChoiceOfLanguageFirstIsAStartByHand)
-{
+TEST_F(StartupTest, aChoiceOfLanguageFirstIsAStartByHand) {
     start({u"-AppleLanguages"_s, u"(de)"_s, u"-version"_s, u"3"_s});
     EXPECT_TRUE(redirectedTo.isEmpty());
 }
 
-TEST_F(StartupTest, theWindowTellsTheProductItsVersionAndItsPlace)
-{
+TEST_F(StartupTest, theWindowTellsTheProductItsVersionAndItsPlace) {
     start();
     EXPECT_EQ(controller().window().windowTitle(), u"Install Demo"_s);
     EXPECT_EQ(text("nameField"), u"Demo 2.0"_s);
     EXPECT_TRUE(text("introField").contains(u"Demo"_s));
     EXPECT_FALSE(text("introField").contains(u'%'));
     EXPECT_TRUE(text("explanationField").contains(u"Demo"_s));
-    EXPECT_EQ(text("pathField"),
-              controller().localizedPath(path(u"Applications/Demo.app"_s)));
+    EXPECT_EQ(text("pathField"), controller().localizedPath(path(u"Applications/Demo.app"_s)));
     EXPECT_TRUE(controller().window().isVisible());
     EXPECT_EQ(page(), InstallerWinController::MainPage);
     EXPECT_FALSE(shown("messageField"));
@@ -57,23 +53,20 @@ TEST_F(StartupTest, theWindowTellsTheProductItsVersionAndItsPlace)
     EXPECT_EQ(title("cancelButton"), u"Cancel"_s);
 }
 
-TEST_F(StartupTest, withoutAVersionTheNameStandsAlone)
-{
+TEST_F(StartupTest, withoutAVersionTheNameStandsAlone) {
     platform.bundles.add(product, {{u"CFBundleSignature"_s, u"DEMO"_s}});
     start();
     EXPECT_EQ(text("nameField"), u"Demo"_s);
 }
 
-TEST_F(StartupTest, aNameThatLooksLikeAFormatOrMarkupShowsAsItIs)
-{
+TEST_F(StartupTest, aNameThatLooksLikeAFormatOrMarkupShowsAsItIs) {
     start({u"-productName"_s, u"<b>100%@</b>"_s});
     EXPECT_EQ(text("nameField"), u"<b>100%@</b> 2.0"_s);
     EXPECT_EQ(controller().window().windowTitle(), u"Install <b>100%@</b>"_s);
     EXPECT_EQ(field("nameField")->textFormat(), Qt::PlainText);
 }
 
-TEST_F(StartupTest, documentationAddsASentenceAndTheHelpButton)
-{
+TEST_F(StartupTest, documentationAddsASentenceAndTheHelpButton) {
     makeFile(u"Guide.html"_s, "<p>Guide</p>");
     start({u"-documentationPath"_s, path(u"Guide.html"_s)});
     EXPECT_TRUE(text("explanationField")
@@ -82,8 +75,7 @@ TEST_F(StartupTest, documentationAddsASentenceAndTheHelpButton)
     EXPECT_TRUE(shown("helpButton"));
 }
 
-TEST_F(StartupTest, aReadMeIsTheFirstPage)
-{
+TEST_F(StartupTest, aReadMeIsTheFirstPage) {
     makeFile(u"ReadMe.txt"_s, "Please read me.\n");
     start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
@@ -95,8 +87,7 @@ TEST_F(StartupTest, aReadMeIsTheFirstPage)
     EXPECT_EQ(title("cancelButton"), u"Go Back"_s);
 }
 
-TEST_F(StartupTest, aReadMeIsDarkOnLightInEveryAppearance)
-{
+TEST_F(StartupTest, aReadMeIsDarkOnLightInEveryAppearance) {
     platform.appearance.setScheme(zt::Appearance::Scheme::Dark);
     makeFile(u"ReadMe.txt"_s, "x");
     start({u"-readMePath"_s, path(u"ReadMe.txt"_s)});
@@ -105,8 +96,7 @@ TEST_F(StartupTest, aReadMeIsDarkOnLightInEveryAppearance)
     EXPECT_LT(paper.color(QPalette::Text).lightness(), 80);
 }
 
-TEST_F(StartupTest, aReadMeThatIsMissingLeavesTheMainPageWithAWayBack)
-{
+TEST_F(StartupTest, aReadMeThatIsMissingLeavesTheMainPageWithAWayBack) {
     start({u"-readMePath"_s, path(u"missing.txt"_s)});
     EXPECT_EQ(page(), InstallerWinController::MainPage);
     EXPECT_EQ(title("cancelButton"), u"Go Back"_s);
@@ -114,17 +104,14 @@ TEST_F(StartupTest, aReadMeThatIsMissingLeavesTheMainPageWithAWayBack)
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
 }
 
-TEST_F(StartupTest, aReadMeThatCannotBeShownSaysWhereItIs)
-{
+TEST_F(StartupTest, aReadMeThatCannotBeShownSaysWhereItIs) {
     start({u"-readMePath"_s, path(u"Applications"_s)});
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
-    EXPECT_TRUE(field<QTextBrowser>("readMeTextView")
-                    ->toPlainText()
-                    .contains(path(u"Applications"_s)));
+    EXPECT_TRUE(
+        field<QTextBrowser>("readMeTextView")->toPlainText().contains(path(u"Applications"_s)));
 }
 
-TEST_F(StartupTest, theIconComesFromTheGivenFileFirst)
-{
+TEST_F(StartupTest, theIconComesFromTheGivenFileFirst) {
     QPixmap red(16, 16);
     red.fill(Qt::red);
     ASSERT_TRUE(red.save(path(u"icon.png"_s)));
@@ -136,8 +123,7 @@ TEST_F(StartupTest, theIconComesFromTheGivenFileFirst)
     EXPECT_TRUE(platform.workspace.iconRequests.isEmpty());
 }
 
-TEST_F(StartupTest, anUnreadableIconFallsThroughToTheBundlesAndTheWorkspaces)
-{
+TEST_F(StartupTest, anUnreadableIconFallsThroughToTheBundlesAndTheWorkspaces) {
     makeFile(u"icon.png"_s, "garbage");
     QPixmap blue(16, 16);
     blue.fill(Qt::blue);
@@ -148,22 +134,20 @@ TEST_F(StartupTest, anUnreadableIconFallsThroughToTheBundlesAndTheWorkspaces)
               QColor(Qt::blue));
 }
 
-TEST_F(StartupTest, theBundlesIconIsFoundByItsExactNameToo)
-{
+TEST_F(StartupTest, theBundlesIconIsFoundByItsExactNameToo) {
     QPixmap green(16, 16);
     green.fill(Qt::green);
     makeFolder(u"Disk/Demo.app/Contents/Resources"_s);
     ASSERT_TRUE(green.save(product + u"/Contents/Resources/Demo.png"_s));
-    platform.bundles.add(product, {{u"CFBundleSignature"_s, u"DEMO"_s},
-                                   {u"CFBundleIconFile"_s, u"Demo.png"_s}});
+    platform.bundles.add(
+        product, {{u"CFBundleSignature"_s, u"DEMO"_s}, {u"CFBundleIconFile"_s, u"Demo.png"_s}});
     start();
     EXPECT_EQ(field<IconView>("iconField")->icon().pixmap(16, 16).toImage().pixelColor(8, 8),
               QColor(Qt::green));
     EXPECT_TRUE(platform.workspace.iconRequests.isEmpty());
 }
 
-TEST_F(StartupTest, anInstallerInNoProductShowsASetUpError)
-{
+TEST_F(StartupTest, anInstallerInNoProductShowsASetUpError) {
     platform.bundles.setMainBundle(u"/nowhere/VelmoraInstaller.app"_s);
     start({u"-completionSound"_s, u"YES"_s});
     EXPECT_EQ(text("introField"), u"missing source path"_s);
@@ -175,15 +159,13 @@ TEST_F(StartupTest, anInstallerInNoProductShowsASetUpError)
     EXPECT_TRUE(controller().window().isVisible());
 }
 
-TEST_F(StartupTest, aSourceWithoutANameShowsASetUpError)
-{
+TEST_F(StartupTest, aSourceWithoutANameShowsASetUpError) {
     start({u"-sourcePath"_s, u""_s});
     EXPECT_EQ(text("introField"), u"missing program name"_s);
     EXPECT_EQ(controller().window().windowTitle(), u""_s);
 }
 
-TEST_F(StartupTest, aProductWithoutASignatureShowsASetUpErrorUnderItsTitle)
-{
+TEST_F(StartupTest, aProductWithoutASignatureShowsASetUpErrorUnderItsTitle) {
     platform.bundles.add(product, {});
     start();
     EXPECT_EQ(text("introField"), u"missing product signature"_s);
@@ -191,15 +173,13 @@ TEST_F(StartupTest, aProductWithoutASignatureShowsASetUpErrorUnderItsTitle)
     EXPECT_EQ(text("nameField"), u""_s);
 }
 
-TEST_F(StartupTest, aSystemThatIsNewEnoughShowsNoAlert)
-{
+TEST_F(StartupTest, aSystemThatIsNewEnoughShowsNoAlert) {
     platform.systemVersion.bugFix = 1;
     start({u"-minSystemVersion"_s, u"12.4.1"_s});
     EXPECT_EQ(findAlert(), nullptr);
 }
 
-TEST_F(StartupTest, aSystemThatIsTooOldShowsTheAlert)
-{
+TEST_F(StartupTest, aSystemThatIsTooOldShowsTheAlert) {
     start({u"-minSystemVersion"_s, u"12.5"_s});
     QMessageBox *shownAlert = findAlert();
     ASSERT_NE(shownAlert, nullptr);
@@ -214,17 +194,15 @@ TEST_F(StartupTest, aSystemThatIsTooOldShowsTheAlert)
     EXPECT_EQ(shownAlert->windowModality(), Qt::WindowModal);
 }
 
-TEST_F(StartupTest, theAlertPrintsAMissingVersionAsSuch)
-{
-    platform.bundles.add(product, {{u"CFBundleSignature"_s, u"DEMO"_s},
-                                   {u"LSMinimumSystemVersion"_s, u"99"_s}});
+TEST_F(StartupTest, theAlertPrintsAMissingVersionAsSuch) {
+    platform.bundles.add(
+        product, {{u"CFBundleSignature"_s, u"DEMO"_s}, {u"LSMinimumSystemVersion"_s, u"99"_s}});
     start();
     ASSERT_NE(findAlert(), nullptr);
     EXPECT_TRUE(findAlert()->text().startsWith(u"Demo (null) cannot be installed"_s));
 }
 
-TEST_F(StartupTest, onlyTheSecondButtonVisitsTheArchive)
-{
+TEST_F(StartupTest, onlyTheSecondButtonVisitsTheArchive) {
     start({u"-minSystemVersion"_s, u"99"_s});
     findAlert()->buttons().at(0)->click();
     EXPECT_TRUE(platform.workspace.openedUrls.isEmpty());
@@ -233,8 +211,7 @@ TEST_F(StartupTest, onlyTheSecondButtonVisitsTheArchive)
     EXPECT_EQ(platform.workspace.openedUrls.first().path(), u"/downloads/archive/"_s);
 }
 
-TEST_F(StartupTest, theWindowFollowsThePreferredAppearance)
-{
+TEST_F(StartupTest, theWindowFollowsThePreferredAppearance) {
     const auto windowLightness = [] {
         return QApplication::palette().color(QPalette::Window).lightness();
     };
@@ -247,7 +224,6 @@ TEST_F(StartupTest, theWindowFollowsThePreferredAppearance)
     EXPECT_GT(windowLightness(), 200);
 }
 
-TEST_F(StartupTest, closingTheWindowQuits)
-{
+TEST_F(StartupTest, closingTheWindowQuits) {
     EXPECT_TRUE(controller().applicationShouldTerminateAfterLastWindowClosed());
 }

@@ -11,11 +11,12 @@ using namespace Qt::StringLiterals;
 
 class WrappingLabelTest : public testing::Test {
 protected:
-    int lines(int width) const { return label.heightForWidth(width) / label.fontMetrics().height(); }
+    int lines(int width) const {
+        return label.heightForWidth(width) / label.fontMetrics().height();
+    }
 
     // The lowest row of pixels that is not background, of the label at the width.
-    int lowestInk(int width)
-    {
+    int lowestInk(int width) {
         label.resize(width, label.heightForWidth(width));
         QImage image(label.size(), QImage::Format_RGB32);
         image.fill(Qt::white);
@@ -35,28 +36,24 @@ protected:
     WrappingLabel label;
 };
 
-TEST_F(WrappingLabelTest, aNarrowLabelBreaksBetweenWords)
-{
+TEST_F(WrappingLabelTest, aNarrowLabelBreaksBetweenWords) {
     label.setText(u"some words that need several lines"_s);
     EXPECT_EQ(lines(10'000), 1);
     EXPECT_GT(lines(80), 2);
 }
 
-TEST_F(WrappingLabelTest, aWordWiderThanTheLabelIsBrokenToo)
-{
+TEST_F(WrappingLabelTest, aWordWiderThanTheLabelIsBrokenToo) {
     label.setText(QString(200, u'm'));
     EXPECT_GT(lines(100), 10);
     EXPECT_LE(label.minimumSizeHint().width(), 100);
 }
 
-TEST_F(WrappingLabelTest, carriageReturnsSeparateLines)
-{
+TEST_F(WrappingLabelTest, carriageReturnsSeparateLines) {
     label.setText(u"one\rtwo\nthree\r\nfour"_s);
     EXPECT_EQ(lines(10'000), 4);
 }
 
-TEST_F(WrappingLabelTest, theWholeTextIsPaintedInsideTheLabel)
-{
+TEST_F(WrappingLabelTest, theWholeTextIsPaintedInsideTheLabel) {
     label.setText(QString(300, u'M'));
     for (const int width : {60, 150, 400}) {
         const int lowest = lowestInk(width);
@@ -65,8 +62,7 @@ TEST_F(WrappingLabelTest, theWholeTextIsPaintedInsideTheLabel)
     }
 }
 
-TEST_F(WrappingLabelTest, markupIsShownAsItIs)
-{
+TEST_F(WrappingLabelTest, markupIsShownAsItIs) {
     label.setText(u"<b>x</b>"_s);
     EXPECT_EQ(label.text(), u"<b>x</b>"_s);
     EXPECT_EQ(label.textFormat(), Qt::PlainText);

@@ -15,15 +15,13 @@ using namespace Qt::StringLiterals;
 
 class AutostartLoginItemsTest : public testing::Test {
 protected:
-    void entry(const QString &name, const QByteArray &lines)
-    {
+    void entry(const QString &name, const QByteArray &lines) {
         QDir().mkpath(folder.filePath(u"autostart"_s));
         QFile file(folder.filePath(u"autostart/"_s + name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("[Desktop Entry]\nType=Application\nName=Demo\n" + lines);
     }
-    QString program(const QString &path)
-    {
+    QString program(const QString &path) {
         const QString file = folder.filePath(path);
         QDir().mkpath(QFileInfo(file).path());
         QFile script(file);
@@ -40,13 +38,11 @@ protected:
     zt::AutostartLoginItems items{folder.path(), platform.bundles};
 };
 
-TEST_F(AutostartLoginItemsTest, withoutTheFolderThereIsNoList)
-{
+TEST_F(AutostartLoginItemsTest, withoutTheFolderThereIsNoList) {
     EXPECT_EQ(items.resolvedPaths(), std::nullopt);
 }
 
-TEST_F(AutostartLoginItemsTest, aProgramInABundleCountsAsTheBundle)
-{
+TEST_F(AutostartLoginItemsTest, aProgramInABundleCountsAsTheBundle) {
     const QString path = program(u"Demo.app/Contents/Linux/Demo"_s);
     const QString bundle = path.chopped(QStringView(u"/Contents/Linux/Demo").size());
     platform.bundles.add(bundle, {});
@@ -54,22 +50,19 @@ TEST_F(AutostartLoginItemsTest, aProgramInABundleCountsAsTheBundle)
     EXPECT_EQ(paths(), Paths{bundle});
 }
 
-TEST_F(AutostartLoginItemsTest, aProgramInNoBundleCountsAsItself)
-{
+TEST_F(AutostartLoginItemsTest, aProgramInNoBundleCountsAsItself) {
     const QString path = program(u"bin/demo tool"_s);
     entry(u"demo.desktop"_s, "Exec=\"" + path.toUtf8() + "\"\n");
     EXPECT_EQ(paths(), Paths{path});
 }
 
-TEST_F(AutostartLoginItemsTest, variablesSetByEnvAreNotTheProgram)
-{
+TEST_F(AutostartLoginItemsTest, variablesSetByEnvAreNotTheProgram) {
     const QString path = program(u"bin/demo"_s);
     entry(u"demo.desktop"_s, "Exec=env A=1 B=2 " + path.toUtf8() + "\n");
     EXPECT_EQ(paths(), Paths{path});
 }
 
-TEST_F(AutostartLoginItemsTest, entriesComeInTheOrderOfTheirFileNames)
-{
+TEST_F(AutostartLoginItemsTest, entriesComeInTheOrderOfTheirFileNames) {
     const QString one = program(u"bin/one"_s);
     const QString two = program(u"bin/two"_s);
     entry(u"b.desktop"_s, "Exec=" + one.toUtf8() + "\n");
@@ -77,8 +70,7 @@ TEST_F(AutostartLoginItemsTest, entriesComeInTheOrderOfTheirFileNames)
     EXPECT_EQ(paths(), (Paths{two, one}));
 }
 
-TEST_F(AutostartLoginItemsTest, entriesThatAreSwitchedOffAreLeftOut)
-{
+TEST_F(AutostartLoginItemsTest, entriesThatAreSwitchedOffAreLeftOut) {
     const QByteArray exec = "Exec=" + program(u"bin/demo"_s).toUtf8() + "\n";
     entry(u"hidden.desktop"_s, exec + "Hidden=true\n");
     entry(u"off.desktop"_s, exec + "X-GNOME-Autostart-enabled=false\n");
@@ -88,15 +80,13 @@ TEST_F(AutostartLoginItemsTest, entriesThatAreSwitchedOffAreLeftOut)
     EXPECT_EQ(paths().size(), 1U);
 }
 
-TEST_F(AutostartLoginItemsTest, anEntryWhoseProgramIsMissingIsUnresolved)
-{
+TEST_F(AutostartLoginItemsTest, anEntryWhoseProgramIsMissingIsUnresolved) {
     entry(u"gone.desktop"_s, "Exec=/no/such/program\n");
     entry(u"broken.desktop"_s, "Exec=\"unclosed\n");
     EXPECT_EQ(paths(), (Paths{std::nullopt, std::nullopt}));
 }
 
-TEST_F(AutostartLoginItemsTest, filesThatAreNoEntriesAreNoItems)
-{
+TEST_F(AutostartLoginItemsTest, filesThatAreNoEntriesAreNoItems) {
     entry(u"notes.txt"_s, "Exec=/bin/true\n");
     EXPECT_EQ(paths(), Paths{});
 }

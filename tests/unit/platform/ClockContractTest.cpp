@@ -17,8 +17,7 @@ namespace {
 
 struct RealCase {
     zt::EventLoopClock clock;
-    void runUntil(const bool &done)
-    {
+    void runUntil(const bool &done) {
         QEventLoop loop;
         while (!done)
             loop.processEvents(QEventLoop::WaitForMoreEvents);
@@ -27,8 +26,7 @@ struct RealCase {
 
 struct FakeCase {
     FakeClock clock;
-    void runUntil(const bool &done)
-    {
+    void runUntil(const bool &done) {
         while (!done)
             clock.advance(1ms);
     }
@@ -45,16 +43,14 @@ protected:
 using Clocks = testing::Types<RealCase, FakeCase>;
 TYPED_TEST_SUITE(ClockContractTest, Clocks);
 
-TYPED_TEST(ClockContractTest, sleepingMovesTimeForwardByAtLeastThatMuch)
-{
+TYPED_TEST(ClockContractTest, sleepingMovesTimeForwardByAtLeastThatMuch) {
     zt::Clock &clock = this->implementation.clock;
     const auto before = clock.steadyNow();
     clock.sleepFor(2ms);
     EXPECT_GE(clock.steadyNow() - before, 2ms);
 }
 
-TYPED_TEST(ClockContractTest, delayedCallsRunInTheOrderOfTheirTimes)
-{
+TYPED_TEST(ClockContractTest, delayedCallsRunInTheOrderOfTheirTimes) {
     std::string order;
     bool done = false;
     zt::Clock &clock = this->implementation.clock;

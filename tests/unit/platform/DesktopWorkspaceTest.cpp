@@ -16,8 +16,7 @@ using namespace Qt::StringLiterals;
 
 class DesktopWorkspaceTest : public testing::Test {
 protected:
-    void write(const QString &path, const QByteArray &content)
-    {
+    void write(const QString &path, const QByteArray &content) {
         const QString file = folder.filePath(path);
         QDir().mkpath(QFileInfo(file).path());
         QFile out(file);
@@ -31,16 +30,14 @@ protected:
                                    platform.bundles};
 };
 
-TEST_F(DesktopWorkspaceTest, applicationsLieBelowTheRootAndTheHomeFolder)
-{
+TEST_F(DesktopWorkspaceTest, applicationsLieBelowTheRootAndTheHomeFolder) {
     EXPECT_EQ(workspace.applicationsFolders(zt::Workspace::Domain::Local),
               QStringList{folder.filePath(u"root/Applications"_s)});
     EXPECT_EQ(workspace.applicationsFolders(zt::Workspace::Domain::User),
               QStringList{folder.filePath(u"home/Applications"_s)});
 }
 
-TEST_F(DesktopWorkspaceTest, bundlesShowWithoutTheirExtension)
-{
+TEST_F(DesktopWorkspaceTest, bundlesShowWithoutTheirExtension) {
     EXPECT_EQ(workspace.displayName(u"/x/Sample Notes.app"_s), u"Sample Notes"_s);
     EXPECT_EQ(workspace.displayName(u"/x/Sample Notes.app/"_s), u"Sample Notes"_s);
     EXPECT_EQ(workspace.displayName(u"/x/.app"_s), u".app"_s);
@@ -48,16 +45,14 @@ TEST_F(DesktopWorkspaceTest, bundlesShowWithoutTheirExtension)
     EXPECT_EQ(workspace.displayName(u"/"_s), u"/"_s);
 }
 
-TEST_F(DesktopWorkspaceTest, aFolderShowsTheNameInItsRecord)
-{
+TEST_F(DesktopWorkspaceTest, aFolderShowsTheNameInItsRecord) {
     write(u"Tools/.directory"_s, "[Desktop Entry]\nName=Werkzeuge\n");
     write(u"Plain/.directory"_s, "garbage\n");
     EXPECT_EQ(workspace.displayName(folder.filePath(u"Tools"_s)), u"Werkzeuge"_s);
     EXPECT_EQ(workspace.displayName(folder.filePath(u"Plain"_s)), u"Plain"_s);
 }
 
-TEST_F(DesktopWorkspaceTest, aBundleShowsItsOwnIcon)
-{
+TEST_F(DesktopWorkspaceTest, aBundleShowsItsOwnIcon) {
     const QString bundle = folder.filePath(u"Demo.app"_s);
     QDir().mkpath(bundle + u"/Contents/Resources"_s);
     QPixmap pixmap(32, 32);
@@ -68,19 +63,16 @@ TEST_F(DesktopWorkspaceTest, aBundleShowsItsOwnIcon)
     EXPECT_EQ(icon.pixmap(32, 32).toImage().pixelColor(16, 16), QColor(Qt::green));
 }
 
-TEST_F(DesktopWorkspaceTest, whatDoesNotExistHasNoIconAndCannotBeOpened)
-{
+TEST_F(DesktopWorkspaceTest, whatDoesNotExistHasNoIconAndCannotBeOpened) {
     EXPECT_TRUE(workspace.iconForFile(folder.filePath(u"missing"_s)).isNull());
     EXPECT_FALSE(workspace.openFile(folder.filePath(u"missing"_s)));
 }
 
-TEST_F(DesktopWorkspaceTest, anAddressThatNobodyHandlesCannotBeOpened)
-{
+TEST_F(DesktopWorkspaceTest, anAddressThatNobodyHandlesCannotBeOpened) {
     EXPECT_FALSE(workspace.openUrl(QUrl(u"no-such-scheme:x"_s)));
 }
 
-TEST_F(DesktopWorkspaceTest, aBundleWithoutAProgramCannotBeOpened)
-{
+TEST_F(DesktopWorkspaceTest, aBundleWithoutAProgramCannotBeOpened) {
     const QString bundle = folder.filePath(u"Empty.app"_s);
     QDir().mkpath(bundle);
     platform.bundles.add(bundle, {});

@@ -19,8 +19,7 @@ struct OsReleaseRow {
     std::optional<VersionNumbers> numbers;
 };
 
-TEST(LinuxSystemVersionTest, numbersComeFromTheVersionRecord)
-{
+TEST(LinuxSystemVersionTest, numbersComeFromTheVersionRecord) {
     const OsReleaseRow rows[] = {
         {"quoted", "NAME=\"Some Linux\"\nVERSION_ID=\"22.04\"\n", "", VersionNumbers{22, 4, 0}},
         {"unquoted", "VERSION_ID=40\n", "", VersionNumbers{40, 0, 0}},
@@ -49,8 +48,7 @@ TEST(LinuxSystemVersionTest, numbersComeFromTheVersionRecord)
 
 class LinuxSystemVersionFilesTest : public testing::Test {
 protected:
-    void write(const QString &path, const QByteArray &content)
-    {
+    void write(const QString &path, const QByteArray &content) {
         const QString file = root.filePath(path);
         QDir().mkpath(QFileInfo(file).path());
         QFile out(file);
@@ -62,8 +60,7 @@ protected:
     QTemporaryDir root;
 };
 
-TEST_F(LinuxSystemVersionFilesTest, theRecordInEtcComesFirst)
-{
+TEST_F(LinuxSystemVersionFilesTest, theRecordInEtcComesFirst) {
     write(u"usr/lib/os-release"_s, "VERSION_ID=1\n");
     EXPECT_EQ(version().majorVersion(), 1);
     write(u"etc/os-release"_s, "VERSION_ID=2.3.4\n");
@@ -73,8 +70,7 @@ TEST_F(LinuxSystemVersionFilesTest, theRecordInEtcComesFirst)
     EXPECT_EQ(version().packedVersion(), 0x0234U);
 }
 
-TEST_F(LinuxSystemVersionFilesTest, onlyDebianIsRefinedByItsPointRelease)
-{
+TEST_F(LinuxSystemVersionFilesTest, onlyDebianIsRefinedByItsPointRelease) {
     write(u"etc/debian_version"_s, "12.9\n");
     write(u"etc/os-release"_s, "ID=other\nVERSION_ID=12\n");
     EXPECT_EQ(version().minorVersion(), 0);
@@ -82,15 +78,13 @@ TEST_F(LinuxSystemVersionFilesTest, onlyDebianIsRefinedByItsPointRelease)
     EXPECT_EQ(version().minorVersion(), 9);
 }
 
-TEST_F(LinuxSystemVersionFilesTest, withoutARecordNothingIsKnown)
-{
+TEST_F(LinuxSystemVersionFilesTest, withoutARecordNothingIsKnown) {
     EXPECT_EQ(version().majorVersion(), std::nullopt);
     EXPECT_EQ(version().packedVersion(), std::nullopt);
     EXPECT_GE(version().frameworkVersion(), 1639.0);
 }
 
-TEST_F(LinuxSystemVersionFilesTest, numbersThatDoNotFitThePackedWordStandAsNines)
-{
+TEST_F(LinuxSystemVersionFilesTest, numbersThatDoNotFitThePackedWordStandAsNines) {
     write(u"etc/os-release"_s, "VERSION_ID=123.45.6\n");
     EXPECT_EQ(version().packedVersion(), 0x9996U);
 }

@@ -12,24 +12,21 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(UserDefaultsTest, pairsOnTheCommandLineAreDefaults)
-{
-    const QVariantMap defaults = zt::parseArgumentDefaults(
-        {u"installer"_s, u"-nosound"_s, u"YES"_s, u"-flag"_s, u"-delay"_s, u"2"_s, u"-delay"_s,
-         u"3"_s, u"-last"_s});
+TEST(UserDefaultsTest, pairsOnTheCommandLineAreDefaults) {
+    const QVariantMap defaults =
+        zt::parseArgumentDefaults({u"installer"_s, u"-nosound"_s, u"YES"_s, u"-flag"_s, u"-delay"_s,
+                                   u"2"_s, u"-delay"_s, u"3"_s, u"-last"_s});
     EXPECT_EQ(defaults, (QVariantMap{{u"nosound"_s, u"YES"_s}, {u"delay"_s, u"3"_s}}));
 }
 
-TEST(UserDefaultsTest, aPropertyListOnTheCommandLineIsRead)
-{
-    const QVariantMap defaults =
-        zt::parseArgumentDefaults({u"installer"_s, u"-list"_s, u"(a, b)"_s, u"-broken"_s, u"(a,"_s});
+TEST(UserDefaultsTest, aPropertyListOnTheCommandLineIsRead) {
+    const QVariantMap defaults = zt::parseArgumentDefaults(
+        {u"installer"_s, u"-list"_s, u"(a, b)"_s, u"-broken"_s, u"(a,"_s});
     EXPECT_EQ(defaults.value(u"list"_s), QVariant(QVariantList{u"a"_s, u"b"_s}));
     EXPECT_EQ(defaults.value(u"broken"_s), QVariant(u"(a,"_s));
 }
 
-TEST(UserDefaultsTest, theCommandLineComesBeforeTheSettingsFile)
-{
+TEST(UserDefaultsTest, theCommandLineComesBeforeTheSettingsFile) {
     const QTemporaryDir folder;
     QSettings(folder.filePath(u"com.demo.conf"_s), QSettings::IniFormat)
         .setValue(u"nosound"_s, u"NO"_s);
@@ -40,8 +37,7 @@ TEST(UserDefaultsTest, theCommandLineComesBeforeTheSettingsFile)
     EXPECT_EQ(given.objectForKey(u"nosound"_s), QVariant(u"YES"_s));
 }
 
-TEST(UserDefaultsTest, aSuiteCannotLeadOutOfTheConfigurationFolder)
-{
+TEST(UserDefaultsTest, aSuiteCannotLeadOutOfTheConfigurationFolder) {
     const QTemporaryDir folder;
     QSettings(folder.filePath(u"secret.conf"_s), QSettings::IniFormat).setValue(u"k"_s, 1);
     QDir(folder.path()).mkdir(u"inside"_s);
@@ -50,8 +46,7 @@ TEST(UserDefaultsTest, aSuiteCannotLeadOutOfTheConfigurationFolder)
     EXPECT_EQ(defaults.objectForKey(u"k"_s, u""_s), std::nullopt);
 }
 
-TEST(UserDefaultsTest, aBrokenSettingsFileHoldsNothing)
-{
+TEST(UserDefaultsTest, aBrokenSettingsFileHoldsNothing) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"com.demo.conf"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
