@@ -33,6 +33,8 @@ InstallerWinController::InstallerWinController(Environment environment)
     QFont pathFont = m_ui.pathField->font();
     pathFont.setBold(true);
     m_ui.pathField->setFont(pathFont);
+    const int helpButtonHeight = m_ui.helpButton->sizeHint().height();
+    m_ui.helpButton->setFixedWidth(helpButtonHeight + helpButtonHeight / 2);
     QSizePolicy progressPolicy = m_ui.progressIndicator->sizePolicy();
     progressPolicy.setRetainSizeWhenHidden(true);
     m_ui.progressIndicator->setSizePolicy(progressPolicy);
@@ -50,6 +52,7 @@ InstallerWinController::InstallerWinController(Environment environment)
 
 InstallerWinController::~InstallerWinController() {
     m_platform.appearance.setChangeListener({});
+    QApplication::setPalette(m_platformPalette);
 }
 
 bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() const {

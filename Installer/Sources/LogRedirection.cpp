@@ -21,5 +21,7 @@ void redirectStandardStreams(const QString &path) {
     for (std::FILE *stream : {stdout, stderr}) {
         if (!std::freopen(name.constData(), "a+", stream))
             std::freopen("/dev/null", "a+", stream);
+        // A crash must not take lines with it that were written before.
+        std::setvbuf(stream, nullptr, _IOLBF, 0);
     }
 }

@@ -3,27 +3,40 @@
 
 #include "tests/unit/installer/InstallerFixture.h"
 
-#include <unistd.h> // geteuid
+#include <unistd.h> // setresuid
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Root may write everywhere. While this lives, a test that runs as root is an ordinary user.
+class AsOrdinaryUser {
+public:
+    explicit AsOrdinaryUser(const QString &ownFolder) : m_wasRoot(geteuid() == 0) {
+        if (!m_wasRoot)
+            return;
+        const QByteArray folder = QFile::encodeName(ownFolder);
+        EXPECT_EQ(chown(folder.constData(), nobody, nobody), 0);
+        EXPECT_EQ(setresuid(nobody, nobody, 0), 0);
+    }
+    ~AsOrdinaryUser() {
+        if (m_wasRoot) {
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
+    }
+    AsOrdinaryUser(const AsOrdinaryUser &) = delete;
+    AsOrdinaryUser &operator=(const AsOrdinaryUser &) = delete;
+
+private:
+    static constexpr uid_t nobody = 65534;
+    bool m_wasRoot;
+};
+
+} // namespace
 
 class DestinationTest : public InstallerFixture {
 protected:
     using Paths = std::vector<std::optional<QString>>;
-
-    // Takes the right to write away, and gives it back at the end so that the folder can be
-    // removed.
-    void makeReadOnly(const QString &relative) {
-        QFile::setPermissions(path(relative), QFile::ReadOwner | QFile::ExeOwner);
-        m_readOnly << path(relative);
-    }
-    ~DestinationTest() override {
-        for (const QString &item : m_readOnly)
-            QFile::setPermissions(item, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    }
-
-private:
-    QStringList m_readOnly;
 };
 
 TEST_F(DestinationTest, aLoginItemThatBeginsWithTheNameIsWhereTheProductIsKept) {
@@ -110,24 +123,29 @@ TEST_F(DestinationTest, theNearestExistingFolderDecidesWhetherAPathCanBeWritten)
 }
 
 TEST_F(DestinationTest, whatCannotBeWrittenIsLogged) {
+    const AsOrdinaryUser user(folder.path());
     EXPECT_FALSE(controller().canWriteToPath(u"/proc/version"_s));
     EXPECT_FALSE(controller().canWriteToPath(u"/proc/no/such/Demo.app"_s));
     EXPECT_FALSE(controller().canWriteToPath(u"Demo.app"_s));
-    const QStringList lines = platform.log.lines();
-    ASSERT_EQ(lines.size(), 3);
-    if (geteuid() != 0)
-        EXPECT_EQ(lines.at(0), u"Cannot write to item /proc/version"_s);
-    EXPECT_EQ(lines.at(1), u"Cannot write to folder /proc"_s);
-    EXPECT_EQ(lines.at(2), u"Cannot write to folder "_s);
+    EXPECT_EQ(platform.log.lines(),
+              (QStringList{u"Cannot write to item /proc/version"_s,
+                           u"Cannot write to folder /proc"_s, u"Cannot write to folder "_s}));
 }
 
 TEST_F(DestinationTest, aReadOnlyFolderIsNotWritable) {
-    if (geteuid() == 0)
-        GTEST_SKIP() << "root may write everywhere";
-    makeReadOnly(u"Applications"_s);
-    EXPECT_FALSE(controller().canWriteToPath(path(u"Applications/Demo.app"_s)));
-    EXPECT_FALSE(controller().canWriteToDirectory(path(u"Applications"_s)));
-    EXPECT_FALSE(controller().canWriteToFileOrDirectory(path(u"Applications"_s)));
+    const AsOrdinaryUser user(folder.path());
+    makeFolder(u"ReadOnly"_s);
+    const QString readOnly = path(u"ReadOnly"_s);
+    QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::ExeOwner);
+    EXPECT_FALSE(controller().canWriteToPath(readOnly + u"/Demo.app"_s));
+    EXPECT_FALSE(controller().canWriteToDirectory(readOnly));
+    EXPECT_FALSE(controller().canWriteToFileOrDirectory(readOnly));
+    platform.workspace.localApplications = {readOnly};
+    platform.workspace.userApplications = {folder.path()};
+    EXPECT_EQ(controller().applicationsDirectory(), folder.path());
+    platform.workspace.userApplications = {path(u"missing"_s)};
+    EXPECT_EQ(controller().applicationsDirectory(), readOnly);
+    QFile::setPermissions(readOnly, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 TEST_F(DestinationTest, aMissingItemIsNotWritable) {
