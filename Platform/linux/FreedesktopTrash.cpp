@@ -4,8 +4,9 @@
 #include "Platform/linux/FreedesktopTrash.h"
 
 #include "Platform/linux/FreedesktopTrashFolder.h"
-#include "Platform/linux/FreedesktopTrashRecord.h"
+#include "Platform/posix/StagedCopy.h"
 #include "Platform/posix/SystemCalls.h"
+#include "Platform/posix/TreeRemoval.h"
 
 #include <pwd.h>
 #include <sys/stat.h>
@@ -14,7 +15,6 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
-#include <ctime>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -22,8 +22,6 @@
 namespace zt {
 
 namespace {
-
-constexpr const char *recordSuffix = ".trashinfo";
 
 std::optional<std::string> canonicalPath(const std::string &path) {
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
@@ -62,50 +60,6 @@ std::string homeFolder() {
     return "/";
 }
 
-// Renames the item into the Trash. Moving a folder changes its entry "..", which takes the right
-// to write to it; a read-only folder of the user's own gets that right for the moment.
-bool renameIntoTrash(int parent, const std::string &name, const struct stat &status, int files,
-                     const std::string &newName) {
-    if (renameWithoutReplacing(parent, name.c_str(), files, newName.c_str()))
-        return true;
-    if (errno != EACCES || !S_ISDIR(status.st_mode) || (status.st_mode & S_IWUSR) != 0)
-        return false;
-    const mode_t mode = status.st_mode & 07777U;
-    if (::fchmodat(parent, name.c_str(), mode | S_IWUSR, AT_SYMLINK_NOFOLLOW) != 0) {
-        errno = EACCES;
-        return false;
-    }
-    const bool renamed = renameWithoutReplacing(parent, name.c_str(), files, newName.c_str());
-    const int saved = errno;
-    static_cast<void>(renamed ? ::fchmodat(files, newName.c_str(), mode, AT_SYMLINK_NOFOLLOW)
-                              : ::fchmodat(parent, name.c_str(), mode, AT_SYMLINK_NOFOLLOW));
-    errno = saved;
-    return renamed;
-}
-
-// Makes the record under the first free name and answers that name; the record is on its medium
-// when this returns, so that no crash leaves an item in the Trash without a record.
-Result<std::string> writeRecord(const TrashFolder &trash, const std::string &name,
-                                const std::string &originalPath, unsigned &attempt) {
-    for (;; ++attempt) {
-        std::string newName = nameInTrash(name, attempt);
-        const std::string recordName = newName + recordSuffix;
-        const std::string recordPath = trash.path + "/info/" + recordName;
-        const UniqueFd record = openAt(trash.records.get(), recordName.c_str(),
-                                       O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
-        if (!record && errno == EEXIST)
-            continue;
-        if (!record)
-            return Error::fromErrno("create", recordPath);
-        if (writeFully(record.get(), trashRecord(originalPath, std::time(nullptr))) &&
-            flushToMedium(record.get()) && flushToMedium(trash.records.get()))
-            return newName;
-        const int code = errno;
-        static_cast<void>(::unlinkat(trash.records.get(), recordName.c_str(), 0));
-        return Error::fromErrno("write", recordPath, code);
-    }
-}
-
 } // namespace
 
 Result<std::string> volumeTopDirectory(const std::string &folder) {
@@ -127,7 +81,6 @@ struct FreedesktopTrash::Item {
     std::string name;
     std::string topDirectory;
     UniqueFd folderDescriptor;
-    struct stat status = {};
 
     std::string path() const { return folder == "/" ? '/' + name : folder + '/' + name; }
 
@@ -166,11 +119,8 @@ Result<FreedesktopTrash::Item> FreedesktopTrash::findItem(const std::string &pat
     item.folderDescriptor = openAt(AT_FDCWD, item.folder.c_str(), O_PATH | O_DIRECTORY);
     if (!item.folderDescriptor)
         return Error::fromErrno("open", item.folder);
-    const std::optional<struct stat> status =
-        statusAt(item.folderDescriptor.get(), item.name.c_str());
-    if (!status)
+    if (!statusAt(item.folderDescriptor.get(), item.name.c_str()))
         return Error::fromErrno("find", path);
-    item.status = *status;
     Result<std::string> top = m_roots.topDirectoryOf(item.folder);
     if (!top)
         return top.error();
@@ -208,27 +158,70 @@ Result<TrashFolder> FreedesktopTrash::openTrashOnVolumeOf(const Item &item) cons
     return trash;
 }
 
+// Moves the item within its volume.
+Result<std::string> FreedesktopTrash::moveInto(const TrashFolder &trash, const Item &item) {
+    for (unsigned attempt = 1;; ++attempt) {
+        const Result<std::string> newName =
+            trash.writeRecord(item.name, item.recordedPath(trash), attempt);
+        if (!newName)
+            return newName;
+        if (moveWithoutReplacing(item.folderDescriptor.get(), item.name.c_str(), trash.files.get(),
+                                 newName->c_str()))
+            return trash.path + "/files/" + *newName;
+        const int code = errno;
+        trash.removeRecord(*newName);
+        // A file without a record holds the name: another one is tried.
+        if (code != EEXIST)
+            return Error::fromErrno("move to the Trash", item.path(), code);
+    }
+}
+
+// For a volume that can have no Trash. The item goes only when its copy is whole and on its medium.
+Result<std::string> FreedesktopTrash::copyToHomeTrash(const Item &item) const {
+    // Made first, because a folder in which nothing can be made gives up nothing either.
+    Result<StagingFolder> leaving = StagingFolder::make(item.folderDescriptor.get(), item.folder);
+    if (!leaving)
+        return leaving.error();
+    const Result<TrashFolder> trash = openHomeTrash(m_roots.dataHome);
+    if (!trash)
+        return trash.error();
+    StagingFolder::sweep(trash->folder.get());
+    const ItemPlace origin = {item.folderDescriptor.get(), item.name, item.path()};
+    Result<StagedCopy> copy = StagedCopy::make(
+        origin, {trash->folder.get(), item.name, trash->path + '/' + item.name}, {});
+    if (!copy)
+        return copy.error();
+    for (unsigned attempt = 1;; ++attempt) {
+        Result<std::string> newName = trash->writeRecord(item.name, item.path(), attempt);
+        if (!newName)
+            return newName;
+        const std::string newPath = trash->path + "/files/" + *newName;
+        const Result<void> placed = copy->place({trash->files.get(), *newName, newPath});
+        if (placed &&
+            moveWithoutReplacing(origin.folder, origin.name.c_str(), leaving->descriptor(), "item"))
+            return newPath;
+        const Error error =
+            placed ? Error::fromErrno("move to the Trash", item.path()) : placed.error();
+        if (placed)
+            static_cast<void>(removeTree(trash->files.get(), newName->c_str()));
+        trash->removeRecord(*newName);
+        if (placed || error.code != EEXIST)
+            return error;
+    }
+}
+
 Result<std::string> FreedesktopTrash::moveToTrash(const std::string &path) {
     const Result<Item> item = findItem(path);
     if (!item)
         return item.error();
     const Result<TrashFolder> trash = openTrashOnVolumeOf(*item);
-    if (!trash)
-        return trash.error();
-    for (unsigned attempt = 1;; ++attempt) {
-        const Result<std::string> newName =
-            writeRecord(*trash, item->name, item->recordedPath(*trash), attempt);
-        if (!newName)
-            return newName.error();
-        if (renameIntoTrash(item->folderDescriptor.get(), item->name, item->status,
-                            trash->files.get(), *newName))
-            return trash->path + "/files/" + *newName;
-        const int code = errno;
-        static_cast<void>(::unlinkat(trash->records.get(), (*newName + recordSuffix).c_str(), 0));
-        // A file without a record holds the name: another one is tried.
-        if (code != EEXIST)
-            return Error::fromErrno("move to the Trash", path, code);
-    }
+    Result<std::string> moved =
+        trash ? moveInto(*trash, *item) : Result<std::string>(trash.error());
+    // Either the volume has no place for a Trash, or what looks like one volume is not.
+    const bool needsCopy = trash ? !moved && moved.error().code == EXDEV : !isOnHomeVolume(*item);
+    if (!needsCopy)
+        return moved;
+    return copyToHomeTrash(*item);
 }
 
 } // namespace zt

@@ -36,7 +36,8 @@ public:
     explicit FreedesktopTrash(Roots roots);
 
     // An item on the volume of the user's data folder goes to the home Trash, any other to the
-    // Trash of its own volume.
+    // Trash of its own volume. When that volume can have none, the item is copied to the home
+    // Trash, and goes once the copy is whole and safe.
     Result<std::string> moveToTrash(const std::string &path) override;
 
 private:
@@ -44,6 +45,8 @@ private:
 
     Result<Item> findItem(const std::string &path) const;
     Result<TrashFolder> openTrashOnVolumeOf(const Item &item) const;
+    static Result<std::string> moveInto(const TrashFolder &trash, const Item &item);
+    Result<std::string> copyToHomeTrash(const Item &item) const;
     bool isOnHomeVolume(const Item &item) const;
 
     Roots m_roots;

@@ -3,15 +3,20 @@
 
 #include "Platform/linux/FreedesktopTrashFolder.h"
 
+#include "Platform/linux/FreedesktopTrashRecord.h"
 #include "Platform/posix/SystemCalls.h"
 
 #include <sys/stat.h>
 
+#include <ctime>
 #include <optional>
+#include <utility>
 
 namespace zt {
 
 namespace {
+
+constexpr const char *recordSuffix = ".trashinfo";
 
 constexpr int folderFlags = O_RDONLY | O_DIRECTORY;
 
@@ -33,21 +38,20 @@ Result<void> makeFolders(const std::string &path) {
     }
 }
 
-Result<TrashFolder> openFoldersOfTrash(const UniqueFd &trash, std::string path,
-                                       std::string topDirectory) {
+Result<TrashFolder> openFoldersOfTrash(UniqueFd trash, std::string path, std::string topDirectory) {
     UniqueFd files = makeAndOpen(trash.get(), "files");
     if (!files)
         return Error::fromErrno("open", path + "/files");
     UniqueFd records = makeAndOpen(trash.get(), "info");
     if (!records)
         return Error::fromErrno("open", path + "/info");
-    return TrashFolder{std::move(path), std::move(topDirectory), std::move(files),
+    return TrashFolder{std::move(path), std::move(topDirectory), std::move(trash), std::move(files),
                        std::move(records)};
 }
 
 Result<TrashFolder> openOwnTrash(int parent, const std::string &name, std::string path,
                                  const std::string &topDirectory, uid_t user) {
-    const UniqueFd trash = makeAndOpen(parent, name.c_str());
+    UniqueFd trash = makeAndOpen(parent, name.c_str());
     if (!trash)
         return Error::fromErrno("open", path);
     const std::optional<struct stat> status = statusOf(trash.get());
@@ -55,7 +59,7 @@ Result<TrashFolder> openOwnTrash(int parent, const std::string &name, std::strin
         return Error::fromErrno("open", path);
     if (status->st_uid != user)
         return Error{"use", path, "it belongs to another user", EPERM};
-    return openFoldersOfTrash(trash, std::move(path), topDirectory);
+    return openFoldersOfTrash(std::move(trash), std::move(path), topDirectory);
 }
 
 std::string joined(const std::string &folder, const std::string &name) {
@@ -64,14 +68,40 @@ std::string joined(const std::string &folder, const std::string &name) {
 
 } // namespace
 
+Result<std::string> TrashFolder::writeRecord(const std::string &name,
+                                             const std::string &originalPath,
+                                             unsigned &attempt) const {
+    for (;; ++attempt) {
+        std::string newName = nameInTrash(name, attempt);
+        const std::string recordName = newName + recordSuffix;
+        const std::string recordPath = path + "/info/" + recordName;
+        const UniqueFd record = openAt(records.get(), recordName.c_str(),
+                                       O_WRONLY | O_CREAT | O_EXCL, S_IRUSR | S_IWUSR);
+        if (!record && errno == EEXIST)
+            continue;
+        if (!record)
+            return Error::fromErrno("create", recordPath);
+        if (writeFully(record.get(), trashRecord(originalPath, std::time(nullptr))) &&
+            flushToMedium(record.get()) && flushToMedium(records.get()))
+            return newName;
+        const int code = errno;
+        removeRecord(newName);
+        return Error::fromErrno("write", recordPath, code);
+    }
+}
+
+void TrashFolder::removeRecord(const std::string &nameInTrash) const {
+    static_cast<void>(::unlinkat(records.get(), (nameInTrash + recordSuffix).c_str(), 0));
+}
+
 Result<TrashFolder> openHomeTrash(const std::string &dataHome) {
     std::string path = joined(dataHome, "Trash");
     if (Result<void> made = makeFolders(path); !made)
         return made.error();
-    const UniqueFd trash = openAt(AT_FDCWD, path.c_str(), folderFlags);
+    UniqueFd trash = openAt(AT_FDCWD, path.c_str(), folderFlags);
     if (!trash)
         return Error::fromErrno("open", path);
-    return openFoldersOfTrash(trash, std::move(path), {});
+    return openFoldersOfTrash(std::move(trash), std::move(path), {});
 }
 
 Result<TrashFolder> openSharedVolumeTrash(const std::string &topDirectory, uid_t user) {

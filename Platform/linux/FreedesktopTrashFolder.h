@@ -18,8 +18,18 @@ namespace zt {
 struct TrashFolder {
     std::string path;         // of the Trash itself, absolute
     std::string topDirectory; // the volume's top folder; empty for the home Trash
+    UniqueFd folder;          // the Trash itself
     UniqueFd files;
     UniqueFd records;
+
+    // Makes a record under the first name, counted from the attempt on, that no other record has,
+    // and answers the item's name in the Trash. The record is on its medium then, so that no crash
+    // leaves an item in the Trash without one. Moves `attempt` to the one that succeeded.
+    Result<std::string> writeRecord(const std::string &name, const std::string &originalPath,
+                                    unsigned &attempt) const;
+
+    // Takes back the record of an item that did not come.
+    void removeRecord(const std::string &nameInTrash) const;
 };
 
 // Each of these makes what is missing, for the user alone, and opens it. Thread: any.

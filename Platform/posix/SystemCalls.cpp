@@ -76,6 +76,26 @@ bool renameWithoutReplacing(int fromFolder, const char *from, int toFolder, cons
     return errno == ENOENT && ::renameat(fromFolder, from, toFolder, to) == 0;
 }
 
+bool moveWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to) {
+    if (renameWithoutReplacing(fromFolder, from, toFolder, to))
+        return true;
+    if (errno != EACCES)
+        return false;
+    const std::optional<struct stat> status = statusAt(fromFolder, from);
+    const bool mayHelp = status && S_ISDIR(status->st_mode) && (status->st_mode & S_IWUSR) == 0;
+    const mode_t mode = mayHelp ? status->st_mode & 07777U : 0;
+    if (!mayHelp || ::fchmodat(fromFolder, from, mode | S_IWUSR, AT_SYMLINK_NOFOLLOW) != 0) {
+        errno = EACCES;
+        return false;
+    }
+    const bool moved = renameWithoutReplacing(fromFolder, from, toFolder, to);
+    const int saved = errno;
+    static_cast<void>(moved ? ::fchmodat(toFolder, to, mode, AT_SYMLINK_NOFOLLOW)
+                            : ::fchmodat(fromFolder, from, mode, AT_SYMLINK_NOFOLLOW));
+    errno = saved;
+    return moved;
+}
+
 bool exchangeNames(int firstFolder, const char *first, int secondFolder, const char *second) {
     if (::renameat2(firstFolder, first, secondFolder, second, RENAME_EXCHANGE) == 0)
         return true;

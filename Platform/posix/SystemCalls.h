@@ -52,9 +52,18 @@ inline bool isSameItem(const struct stat &a, const struct stat &b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
+// Whether the content was last changed at the same time.
+inline bool hasSameModificationTime(const struct stat &a, const struct stat &b) {
+    return a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
+}
+
 // Renames unless something has the new name already (errno EEXIST). Atomic. On file systems that
 // cannot promise that, the name is looked up first.
 bool renameWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to);
+
+// The same between any two folders of a volume. A folder that its owner may not write to cannot
+// change its parent; if it belongs to this process's user, it gets that right for the moment.
+bool moveWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to);
 
 // Lets two existing items change places in one step. False with errno EINVAL where the file system
 // cannot do it.

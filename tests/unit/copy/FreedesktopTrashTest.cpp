@@ -4,6 +4,7 @@
 #include "Platform/linux/FreedesktopTrash.h"
 
 #include "tests/unit/copy/TemporaryFolder.h"
+#include "tests/unit/copy/TreeDescription.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -178,10 +179,47 @@ TEST_F(FreedesktopTrashTest, aSharedTrashThatIsALinkIsNotTrusted) {
 TEST_F(FreedesktopTrashTest, aPrivateTrashThatIsALinkIsNotTrusted) {
     m_world.makeFolder("elsewhere");
     m_world.makeLink("volume/.Trash-" + std::to_string(::geteuid()), m_world.path("elsewhere"));
-    const std::string file = m_world.makeFile("volume/file", "kept");
-    EXPECT_FALSE(makeTrash().moveToTrash(file));
-    EXPECT_EQ(contentOf(file), "kept");
+    const Result<std::string> moved = makeTrash().moveToTrash(m_world.makeFile("volume/file"));
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(*moved, m_homeTrash + "/files/file");
     EXPECT_THAT(namesIn(m_world.path("elsewhere")), IsEmpty());
+}
+
+TEST_F(FreedesktopTrashTest, anItemOfAVolumeWithoutTrashIsCopiedToTheHomeTrash) {
+    m_world.makeFile(".Trash-" + std::to_string(::geteuid()));
+    m_world.makeFile("volume/.Trash-" + std::to_string(::geteuid()));
+    m_world.makeFile("volume/apps/Product.app/Contents/file", "old", 0640);
+    m_world.makeLink("volume/apps/Product.app/link", "Contents/file");
+    const auto before = testing::describeTree(m_world.path("volume/apps/Product.app"));
+    const Result<std::string> moved =
+        makeTrash().moveToTrash(m_world.path("volume/apps/Product.app"));
+    ASSERT_TRUE(moved) << moved.error().text();
+    EXPECT_EQ(*moved, m_homeTrash + "/files/Product.app");
+    EXPECT_EQ(testing::describeTree(*moved), before);
+    EXPECT_THAT(namesIn(m_world.path("volume/apps")), IsEmpty());
+    EXPECT_THAT(contentOf(m_homeTrash + "/info/Product.app.trashinfo"),
+                HasSubstr("Path=" + m_world.path("volume/apps/Product.app") + "\n"));
+    EXPECT_THAT(namesIn(m_homeTrash), ElementsAre("files", "info"));
+}
+
+TEST_F(FreedesktopTrashTest, anItemThatCannotBeCopiedToTheHomeTrashStays) {
+    m_world.makeFile("volume/.Trash-" + std::to_string(::geteuid()));
+    m_world.makeFolder("volume/Product.app");
+    ASSERT_EQ(::mkfifo(m_world.path("volume/Product.app/pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(makeTrash().moveToTrash(m_world.path("volume/Product.app")));
+    EXPECT_TRUE(itemExists(m_world.path("volume/Product.app/pipe")));
+    EXPECT_THAT(namesIn(m_homeTrash), ElementsAre("files", "info"));
+    EXPECT_THAT(namesIn(m_homeTrash + "/files"), IsEmpty());
+    EXPECT_THAT(namesIn(m_homeTrash + "/info"), IsEmpty());
+}
+
+TEST_F(FreedesktopTrashTest, aSecondCopyInTheHomeTrashGetsAnotherName) {
+    m_world.makeFile("volume/.Trash-" + std::to_string(::geteuid()));
+    FreedesktopTrash trash = makeTrash();
+    for (const char *content : {"first", "second"})
+        ASSERT_TRUE(trash.moveToTrash(m_world.makeFile("volume/file", content)));
+    EXPECT_EQ(contentOf(m_homeTrash + "/files/file"), "first");
+    EXPECT_EQ(contentOf(m_homeTrash + "/files/file.2"), "second");
 }
 
 TEST_F(FreedesktopTrashTest, aTrashThatCannotBeMadeLeavesTheItem) {

@@ -1,0 +1,60 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Giving a copy the owner, attributes, access lists, mode and times of its original.
+
+#include "Platform/Result.h"
+
+#include <sys/stat.h>
+#include <sys/types.h>
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zt {
+
+// What new files of one copy are like before anything is set. Thread: any.
+class CopiedMetadata {
+public:
+    // `newItem` is the status of any file or folder just made for the copy. `note` is told once
+    // when attributes cannot be kept; it may be empty.
+    CopiedMetadata(const struct stat &newItem, std::function<void(std::string_view)> note);
+
+    // The mode with which to create a copy so that it can be written to, and so that setting its
+    // mode afterwards is seldom needed.
+    static mode_t creationMode(const struct stat &original);
+
+    // Sets everything on an open copy that was made with creationMode() and is otherwise complete.
+    // On failure the error names the operation, not the object.
+    Result<void> apply(int original, int copy, const struct stat &status) const;
+
+    // The same for a link, by its name in the open folder.
+    Result<void> applyToLink(int folder, const char *name, const struct stat &status) const;
+
+private:
+    struct Ownership {
+        bool userIsKept = true;
+        bool groupIsKept = true;
+        bool wasSet = false;
+    };
+
+    Ownership applyOwner(int copy, const struct stat &status) const;
+    bool mayGive(gid_t group) const;
+    bool needsMode(const struct stat &status, mode_t mode, const Ownership &ownership) const;
+    Result<void> copyAttribute(int original, int copy, const std::string &name) const;
+
+    uid_t m_newUser;
+    gid_t m_newGroup;
+    mode_t m_mask; // of new files, see umask
+    bool m_isPrivileged;
+    std::vector<gid_t> m_groups;
+    std::function<void(std::string_view)> m_note;
+    mutable std::atomic<bool> m_hasNoted = false;
+};
+
+} // namespace zt
