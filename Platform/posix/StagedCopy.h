@@ -21,9 +21,9 @@ enum class Durability { Durable, Relaxed };
 
 struct StagedCopySettings {
     Durability durability = Durability::Durable;
-    std::stop_token stop;                               // see TreeCopyRequest
-    std::function<void(const CopyProgress &)> progress; // see TreeCopyRequest
-    std::function<void(std::string_view)> note;         // see TreeCopyRequest
+    std::stop_token stop = {};                               // see TreeCopyRequest
+    std::function<void(const CopyProgress &)> progress = {}; // see TreeCopyRequest
+    std::function<void(std::string_view)> note = {};         // see TreeCopyRequest
 };
 
 // Whatever has not been put in place goes with its owner. Thread: one at a time.

@@ -33,15 +33,15 @@ struct TreeCopyRequest {
     ItemPlace target; // its folder is the caller's alone while the copy is made
 
     // Asks the copy to end; it fails then with the code ECANCELED.
-    std::stop_token stop;
+    std::stop_token stop = {};
 
     // Told at most 60 times a second, never twice at once, on any thread. When it is empty, the
     // sizes are not added up beforehand.
-    std::function<void(const CopyProgress &)> progress;
+    std::function<void(const CopyProgress &)> progress = {};
 
     // Receives one sentence when the target's file system cannot keep something: an attribute, or
     // that two names are one file. On any thread.
-    std::function<void(std::string_view)> note;
+    std::function<void(std::string_view)> note = {};
 };
 
 // Copies a file, a link itself or a folder with all that is in it. The copy has the same content,

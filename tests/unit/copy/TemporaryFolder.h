@@ -38,6 +38,11 @@ private:
     std::string m_path;
 };
 
+// A folder in memory, where the machine has one; else the usual one. For tests whose moments would
+// otherwise all fall into the waiting for a disk.
+std::string fastTemporaryParent();
+std::string temporaryParent();
+
 // Whether an item, if only a dangling link, has the path.
 bool itemExists(const std::string &path);
 
