@@ -9,7 +9,6 @@ windowTimeout=60 # seconds
 # awaitWindow TITLE: waits for a window whose title begins so, and leaves its number in `window`.
 awaitWindow() {
     local deadline=$((SECONDS + windowTimeout))
-    lastPicture=
     until window=$(xdotool search --onlyvisible --name "^$1" 2>/dev/null | tail -n 1) &&
         [[ -n $window ]]; do
         if ((SECONDS >= deadline)); then
@@ -20,27 +19,45 @@ awaitWindow() {
     done
 }
 
-# awaitPicture FILE: waits until the window has changed since the last picture and stands still,
-# which it does not while something moves in it. Then writes it, with its frame, to the file.
+# Prints what stands for the whole screen as it looks now.
+screenNow() {
+    import -silent -window root rgb:- | sha256sum
+}
+
+# awaitPicture FILE: waits until the screen has changed since the last picture and stands still,
+# which it does not while something moves on it. Then writes it to the file.
 awaitPicture() {
     local deadline=$((SECONDS + windowTimeout)) picture previous='' still=0
     while ((still < 3)); do
-        if ((SECONDS >= deadline)); then
-            printf 'The window did not come to rest for %s.\n' "$1" >&2
-            import -window root "$1"
-            return 1
-        fi
         sleep 0.08
-        picture=$(import -silent -window "$window" rgb:- 2>/dev/null | sha256sum) || return 1
-        if [[ $picture == "$previous" && $picture != "$lastPicture" ]]; then
-            ((++still))
+        picture=$(screenNow)
+        if [[ $picture == "$previous" && $picture != "${lastPicture:-}" ]]; then
+            ((still += 1))
         else
             still=0
         fi
         previous=$picture
+        if ((SECONDS >= deadline)); then
+            printf 'The screen did not come to rest for %s.\n' "$1" >&2
+            import -silent -window root "$1"
+            return 1
+        fi
     done
     lastPicture=$picture
-    import -silent -frame -window "$window" "$1"
+    import -silent -window root "$1"
+}
+
+# awaitChange: waits until the screen differs from the last picture, moving or not.
+awaitChange() {
+    local deadline=$((SECONDS + windowTimeout))
+    while [[ $(screenNow) == "$lastPicture" ]] && ((SECONDS < deadline)); do
+        sleep 0.02
+    done
+}
+
+# paintDesktop: in place of the X server's black.
+paintDesktop() {
+    convert -size 64x64 xc:'#5b6f80' png:- | display -window root -
 }
 
 # pressKey KEY...: as a person would, on the window that has the focus.
