@@ -6,8 +6,12 @@
 cd -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")/.."
 
 bold= plain=
+# shellcheck disable=SC2034 # for those who build
+ninjaOptions=(--quiet)
 if [[ -t 1 ]]; then
     bold=$'\e[1m' plain=$'\e[0m'
+    # One line that changes shows a person that the build goes on.
+    ninjaOptions=()
 fi
 
 # say TEXT: what is being done now.

@@ -57,7 +57,7 @@ awaitChange() {
 
 # paintDesktop: in place of the X server's black.
 paintDesktop() {
-    convert -size 64x64 xc:'#5b6f80' png:- | display -window root -
+    xsetroot -solid '#5b6f80'
 }
 
 # pressKey KEY...: as a person would, on the window that has the focus.
