@@ -12,9 +12,6 @@ function(velmora_bundle_product target)
     set(version "${arg_VERSION}")
     set(informationDictionary "${CMAKE_CURRENT_BINARY_DIR}/${target}-Info.plist")
     configure_file("${arg_INFO_PLIST}" "${informationDictionary}" @ONLY)
-    set(copyInstaller ${CMAKE_COMMAND} -E copy_directory
-        "${CMAKE_BINARY_DIR}/VelmoraInstaller.app"
-        "${bundle}/Contents/Resources/VelmoraInstaller.app")
     add_custom_target(${target}Bundle ALL
         COMMAND ${CMAKE_COMMAND} -E rm -rf "${bundle}"
         COMMAND ${CMAKE_COMMAND} -E make_directory
@@ -22,12 +19,10 @@ function(velmora_bundle_product target)
         COMMAND ${CMAKE_COMMAND} -E copy "${informationDictionary}" "${bundle}/Contents/Info.plist"
         COMMAND ${CMAKE_COMMAND} -E copy "$<TARGET_FILE:${target}>" "${bundle}/Contents/Linux"
         COMMAND ${CMAKE_COMMAND} -E copy ${arg_RESOURCES} "${bundle}/Contents/Resources"
-        COMMAND "$<$<TARGET_EXISTS:VelmoraInstaller>:${copyInstaller}>"
+        COMMAND ${CMAKE_COMMAND} -E copy_directory "${CMAKE_BINARY_DIR}/VelmoraInstaller.app"
+            "${bundle}/Contents/Resources/VelmoraInstaller.app"
         DEPENDS ${arg_RESOURCES}
         COMMENT "Assembling ${arg_NAME}.app"
-        COMMAND_EXPAND_LISTS VERBATIM)
-    add_dependencies(${target}Bundle ${target})
-    if(TARGET VelmoraInstaller)
-        add_dependencies(${target}Bundle VelmoraInstaller)
-    endif()
+        VERBATIM)
+    add_dependencies(${target}Bundle ${target} VelmoraInstaller)
 endfunction()
