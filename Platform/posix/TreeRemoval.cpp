@@ -20,12 +20,17 @@ namespace {
 // Folders below this depth are moved up, so that descriptors and stack stay bounded.
 constexpr int maximumDepth = 48;
 
-// The mount that the open item is reached through.
-std::optional<std::uint64_t> mountOf(int descriptor) {
+struct MountPlace {
+    std::uint64_t mount = 0; // the mount that the item is reached through
+    bool isRoot = false;     // whether something is mounted right there
+};
+
+// An empty name stands for the open folder itself.
+std::optional<MountPlace> mountPlace(int folder, const char *name) {
     struct statx status = {};
-    if (::statx(descriptor, "", AT_EMPTY_PATH, STATX_MNT_ID, &status) != 0)
+    if (::statx(folder, name, AT_EMPTY_PATH | AT_SYMLINK_NOFOLLOW, STATX_MNT_ID, &status) != 0)
         return std::nullopt;
-    return status.stx_mnt_id;
+    return MountPlace{status.stx_mnt_id, (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0};
 }
 
 class Removal {
@@ -55,11 +60,11 @@ UniqueFd Removal::openFolder(int parent, const char *name) const {
         folder = openAt(parent, name, flags);
     if (!folder)
         return folder;
-    const std::optional<std::uint64_t> mount = mountOf(folder.get());
-    if (!mount)
+    const std::optional<MountPlace> place = mountPlace(folder.get(), "");
+    if (!place)
         return {};
     // A mounted volume is not part of the item: its content must not go with it.
-    if (*mount != m_mount) {
+    if (place->mount != m_mount || place->isRoot) {
         errno = EBUSY;
         return {};
     }
@@ -139,10 +144,10 @@ Result<void> Removal::run() {
             return {};
         return Error::fromErrno("remove", m_name);
     }
-    const std::optional<std::uint64_t> mount = mountOf(m_folder);
-    if (!mount)
+    const std::optional<MountPlace> place = mountPlace(m_folder, m_name);
+    if (!place)
         return Error::fromErrno("remove", m_name);
-    m_mount = *mount;
+    m_mount = place->mount;
     const unsigned char type = S_ISDIR(status->st_mode) ? DT_DIR : DT_REG;
     if (!removeItem(m_folder, m_name, type, 0))
         return Error::fromErrno("remove", m_name);

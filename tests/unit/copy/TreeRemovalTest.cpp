@@ -3,11 +3,13 @@
 
 #include "Platform/posix/TreeRemoval.h"
 #include "Platform/posix/SystemCalls.h"
+#include "tests/unit/copy/ChildProcess.h"
 #include "tests/unit/copy/TemporaryFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,6 +57,32 @@ TEST(TreeRemovalTest, aFolderThatDeniesAccessGoesToo) {
     folder.makeFile("tree/readOnly/file");
     ASSERT_EQ(::chmod(folder.path("tree/closed").c_str(), 0), 0);
     ASSERT_EQ(::chmod(folder.path("tree/readOnly").c_str(), 0555), 0);
+    ASSERT_TRUE(removeTree(AT_FDCWD, folder.path("tree").c_str()));
+    EXPECT_FALSE(itemExists(folder.path("tree")));
+}
+
+TEST(TreeRemovalTest, aMountedVolumeKeepsItsContent) {
+    const TemporaryFolder folder;
+    folder.makeFolder("tree/mounted");
+    folder.makeFile("other/file", "kept");
+    const std::string outcome = testing::withPrivateMounts([&]() -> std::string {
+        const std::string mounted = folder.path("tree/mounted");
+        // Seen through a second mount of the same file system, which no device number tells.
+        if (::mount(folder.path("other").c_str(), mounted.c_str(), nullptr, MS_BIND, nullptr) != 0)
+            return testing::cannotMount;
+        const Result<void> around = removeTree(AT_FDCWD, folder.path("tree").c_str());
+        const Result<void> itself = removeTree(AT_FDCWD, mounted.c_str());
+        return !around && !itself && around.error().code == EBUSY ? "" : "it was removed";
+    });
+    if (outcome == testing::cannotMount)
+        GTEST_SKIP() << outcome;
+    EXPECT_EQ(outcome, "");
+    EXPECT_EQ(testing::contentOf(folder.path("other/file")), "kept");
+}
+
+TEST(TreeRemovalTest, aTreeOnAnotherVolumeThanTheWorkingFolderIsRemoved) {
+    const TemporaryFolder folder(testing::fastTemporaryParent());
+    folder.makeFile("tree/a/file");
     ASSERT_TRUE(removeTree(AT_FDCWD, folder.path("tree").c_str()));
     EXPECT_FALSE(itemExists(folder.path("tree")));
 }
