@@ -187,9 +187,10 @@ Result<void> CopiedMetadata::applyToLink(int folder, const char *name,
                                          const struct stat &status) const {
     const bool hasOtherOwner = status.st_uid != m_newUser || status.st_gid != m_newGroup;
     // A link's owner has no effect; where it cannot be kept, nothing is lost.
-    if (m_isPrivileged && hasOtherOwner)
-        static_cast<void>(
-            ::fchownat(folder, name, status.st_uid, status.st_gid, AT_SYMLINK_NOFOLLOW));
+    if (m_isPrivileged && hasOtherOwner) {
+        [[maybe_unused]] const int owned =
+            ::fchownat(folder, name, status.st_uid, status.st_gid, AT_SYMLINK_NOFOLLOW);
+    }
     if (::utimensat(folder, name, timesOf(status).data(), AT_SYMLINK_NOFOLLOW) != 0)
         return Error::fromErrno("set the times of", {});
     return {};

@@ -38,13 +38,15 @@ Result<std::string> newName() {
     return std::string(prefix) + std::to_string(::getpid()) + '-' + digits.data();
 }
 
+enum class Lock { Taken, InOtherHands, Unsupported };
+
 // Locks the folder unless another process has it locked, or has removed it meanwhile.
-bool lock(int parent, const std::string &name, int folder) {
+Lock lock(int parent, const std::string &name, int folder) {
     if (retryInterrupted([&] { return ::flock(folder, LOCK_EX | LOCK_NB); }) != 0)
-        return false;
+        return errno == EWOULDBLOCK ? Lock::InOtherHands : Lock::Unsupported;
     const std::optional<struct stat> opened = statusOf(folder);
     const std::optional<struct stat> named = statusAt(parent, name.c_str());
-    return opened && named && isSameItem(*opened, *named);
+    return opened && named && isSameItem(*opened, *named) ? Lock::Taken : Lock::InOtherHands;
 }
 
 // What the parent folder hands down to new folders must not get into copies.
@@ -59,7 +61,7 @@ void removeAbandoned(int parent, const std::string &name) {
     if (!folder)
         return;
     const std::optional<struct stat> status = statusOf(folder.get());
-    if (!status || status->st_uid != ::geteuid() || !lock(parent, name, folder.get()))
+    if (!status || status->st_uid != ::geteuid() || lock(parent, name, folder.get()) != Lock::Taken)
         return;
     if (removeTree(parent, (name + std::string(siblingSuffix)).c_str()))
         static_cast<void>(removeTree(parent, name.c_str()));
@@ -85,7 +87,7 @@ StagingFolder::~StagingFolder() {
 
 Result<StagingFolder> StagingFolder::make(int parent, const std::string &parentPath) {
     // Another process that sweeps just now may take the new folder for an abandoned one before it
-    // is locked; the next name is free of that.
+    // is locked; the next name is free of that. Where nothing can be locked, nothing is swept.
     for (;;) {
         const Result<std::string> name = newName();
         if (!name)
@@ -96,7 +98,7 @@ Result<StagingFolder> StagingFolder::make(int parent, const std::string &parentP
         UniqueFd folder = openAt(parent, name->c_str(), folderFlags);
         if (!folder && errno == ENOENT)
             continue;
-        if (folder && !lock(parent, *name, folder.get()))
+        if (folder && lock(parent, *name, folder.get()) == Lock::InOtherHands)
             continue;
         if (!folder || !clearInheritedRights(folder.get())) {
             Error error = Error::fromErrno("open", std::move(path));

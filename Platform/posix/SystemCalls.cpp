@@ -90,8 +90,9 @@ bool moveWithoutReplacing(int fromFolder, const char *from, int toFolder, const 
     }
     const bool moved = renameWithoutReplacing(fromFolder, from, toFolder, to);
     const int saved = errno;
-    static_cast<void>(moved ? ::fchmodat(toFolder, to, mode, AT_SYMLINK_NOFOLLOW)
-                            : ::fchmodat(fromFolder, from, mode, AT_SYMLINK_NOFOLLOW));
+    [[maybe_unused]] const int restored =
+        moved ? ::fchmodat(toFolder, to, mode, AT_SYMLINK_NOFOLLOW)
+              : ::fchmodat(fromFolder, from, mode, AT_SYMLINK_NOFOLLOW);
     errno = saved;
     return moved;
 }
