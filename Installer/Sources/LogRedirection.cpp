@@ -19,8 +19,9 @@ void redirectStandardStreams(const QString &path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);
     for (std::FILE *stream : {stdout, stderr}) {
-        if (!std::freopen(name.constData(), "a+", stream))
-            std::freopen("/dev/null", "a+", stream);
+        if (!std::freopen(name.constData(), "a+", stream) &&
+            !std::freopen("/dev/null", "a+", stream))
+            continue;
         // A crash must not take lines with it that were written before.
         std::setvbuf(stream, nullptr, _IOLBF, 0);
     }
