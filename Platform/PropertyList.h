@@ -14,7 +14,7 @@ namespace zt {
 
 // The largest property list that is read, in bytes. Information dictionaries are a few kilobytes;
 // a larger file is refused rather than read.
-inline constexpr qint64 maximumPropertyListSize = 16 * 1024 * 1024;
+inline constexpr qint64 maximumPropertyListSize = qint64(16) * 1024 * 1024;
 
 // Reads a property list in XML, binary or the old text form, told apart by its content.
 // Dictionaries become QVariantMap, arrays QVariantList, strings QString, data QByteArray, dates

@@ -36,9 +36,10 @@ std::optional<QIcon> loadIcon(const QString &path) {
         QImage image = reader.read();
         if (image.isNull())
             continue;
-        if (image.width() > largestUsefulSize || image.height() > largestUsefulSize)
+        if (image.width() > largestUsefulSize || image.height() > largestUsefulSize) {
             image = image.scaled(largestUsefulSize, largestUsefulSize, Qt::KeepAspectRatio,
                                  Qt::SmoothTransformation);
+        }
         icon.addPixmap(QPixmap::fromImage(std::move(image)));
     }
     return icon.isNull() ? std::nullopt : std::optional(icon);

@@ -39,6 +39,8 @@ public:
     explicit InstallerWinController(Environment environment);
     // Asks a running installation to stop and waits for its thread.
     ~InstallerWinController() override;
+    InstallerWinController(const InstallerWinController &) = delete;
+    InstallerWinController &operator=(const InstallerWinController &) = delete;
 
     // The window, set up but not shown before awakeFromNib.
     QDialog &window() { return m_window; }

@@ -13,7 +13,6 @@
 #include <QFileInfo>
 
 #include <cstdlib>
-#include <stdlib.h> // random
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +33,7 @@ QString abbreviatingWithTilde(const QString &path) {
 
 std::optional<QString>
 InstallerWinController::findPreferredDestinationFor(const QString &productName) const {
-    const auto loginItem = autoLaunchPathFor(productName);
+    auto loginItem = autoLaunchPathFor(productName);
     ZTLog("autolaunch = %@", loginItem);
     if (loginItem && !isInUnsupportedFolder(loginItem))
         return loginItem;
@@ -64,7 +63,7 @@ bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> 
 QString InstallerWinController::applicationsDirectory() const {
     const QStringList local =
         m_platform.workspace.applicationsFolders(zt::Workspace::Domain::Local);
-    const QString system = local.isEmpty() ? QString() : expandingTilde(local.last());
+    QString system = local.isEmpty() ? QString() : expandingTilde(local.last());
     if (!system.isEmpty() && canWriteToFileOrDirectory(system))
         return system;
     ZTLog("Can't write to /Applications, checking ~/Applications");

@@ -28,6 +28,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qreal readMeMargin = 12;
+
 const QUrl softwareArchive(u"https://www.velmora.example/downloads/archive/"_s);
 
 } // namespace
@@ -138,6 +140,7 @@ void InstallerWinController::fillReadMe() {
                                              ZTViewExtensions::LightAppearance::Forced);
     if (auto document = AttributedDocument::load(*path)) {
         (*document)->setParent(m_ui.readMeTextView);
+        (*document)->setDocumentMargin(readMeMargin);
         m_ui.readMeTextView->setDocument(document->release());
     } else {
         ZTLog("%s", document.error().text().c_str());
