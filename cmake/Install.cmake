@@ -1,0 +1,67 @@
+# What "cmake --install" puts in place: the installer's bundle, the utility library with its headers,
+# and the files through which find_package(ZTStuff) finds it.
+
+include(CMakePackageConfigHelpers)
+
+install(DIRECTORY "${PROJECT_BINARY_DIR}/VelmoraInstaller.app"
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora-installer
+    USE_SOURCE_PERMISSIONS)
+
+set(headerFolder ${CMAKE_INSTALL_INCLUDEDIR}/ztstuff)
+set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/ZTStuff)
+# The headers of the one back end and of the system calls below it are no interface.
+install(DIRECTORY ZTStuff Platform
+    DESTINATION ${headerFolder}
+    FILES_MATCHING PATTERN "*.h" PATTERN "Platform/linux" EXCLUDE PATTERN "Platform/posix" EXCLUDE)
+
+# velmora_collect_libraries(<variable> <library>)
+# Adds to the list in the variable the library and all libraries of this project that it links.
+function(velmora_collect_libraries variable library)
+    set(collected ${${variable}})
+    if(library IN_LIST collected)
+        return()
+    endif()
+    list(APPEND collected ${library})
+    get_target_property(linked ${library} LINK_LIBRARIES)
+    foreach(other IN LISTS linked)
+        if(TARGET ${other})
+            get_target_property(imported ${other} IMPORTED)
+            if(NOT imported)
+                velmora_collect_libraries(collected ${other})
+            endif()
+        endif()
+    endforeach()
+    set(${variable} ${collected} PARENT_SCOPE)
+endfunction()
+
+# velmora_install_component(<component> <library> [<excluded>...])
+# Installs the library as ZTStuff::<component>, together with the libraries that it links and that
+# are not among the excluded.
+function(velmora_install_component component library)
+    set(libraries "")
+    velmora_collect_libraries(libraries ${library})
+    list(REMOVE_ITEM libraries ${ARGN} "")
+    set_target_properties(${library} PROPERTIES EXPORT_NAME ${component})
+    foreach(installed IN LISTS libraries)
+        target_compile_features(${installed} INTERFACE cxx_std_20)
+    endforeach()
+    install(TARGETS ${libraries} EXPORT ZTStuff-${component}
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff
+        INCLUDES DESTINATION ${headerFolder})
+    install(EXPORT ZTStuff-${component} NAMESPACE ZTStuff:: DESTINATION ${packageFolder})
+    set(${component}Libraries ${libraries} PARENT_SCOPE)
+endfunction()
+
+velmora_install_component(core ztstuff_core)
+velmora_install_component(gui ztstuff_gui ${coreLibraries})
+
+configure_package_config_file(cmake/ZTStuffConfig.cmake.in
+    "${PROJECT_BINARY_DIR}/ZTStuffConfig.cmake"
+    INSTALL_DESTINATION ${packageFolder}
+    NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZTStuffConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${PROJECT_BINARY_DIR}/ZTStuffConfig.cmake"
+    "${PROJECT_BINARY_DIR}/ZTStuffConfigVersion.cmake"
+    DESTINATION ${packageFolder})
