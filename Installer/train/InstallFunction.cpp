@@ -85,10 +85,11 @@ bool Installation::prepare() {
     const Result<void> planned = zt::planWrapper(m_plan, *m_paths.wrapper);
     if (planned)
         return true;
-    if (m_plan.destinationFolder.descriptor || m_plan.makesGuaranteedFolder)
+    if (m_plan.destinationFolder.descriptor || m_plan.makesGuaranteedFolder) {
         copyFailed(planned.error(), "myself", m_paths.destination);
-    else
+    } else {
         copyFailed(planned.error(), "wrapper", m_plan.destinationFolderPath);
+    }
     return false;
 }
 

@@ -182,7 +182,7 @@ Result<std::vector<std::string>> namesInFolder(const OpenFolder &folder) {
     if (!listing)
         return Error::fromErrno("open", folder.path);
     std::vector<std::string> names;
-    alignas(std::uint64_t) std::array<std::byte, 16 * 1024> buffer;
+    alignas(std::uint64_t) std::array<std::byte, 16384> buffer;
     DirectoryReader reader(listing.get(), buffer);
     while (const DirectoryReader::Entry *entry = reader.next())
         names.emplace_back(entry->name);

@@ -52,7 +52,7 @@ std::optional<Volume> volumeOf(const std::string &path) {
 std::string homeFolder() {
     if (const char *home = std::getenv("HOME"); home && home[0] == '/')
         return home;
-    std::array<char, 16 * 1024> buffer = {};
+    std::array<char, 16384> buffer = {};
     passwd entry = {};
     passwd *found = nullptr;
     if (::getpwuid_r(::geteuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found)
@@ -161,7 +161,7 @@ Result<TrashFolder> FreedesktopTrash::openTrashOnVolumeOf(const Item &item) cons
 // Moves the item within its volume.
 Result<std::string> FreedesktopTrash::moveInto(const TrashFolder &trash, const Item &item) {
     for (unsigned attempt = 1;; ++attempt) {
-        const Result<std::string> newName =
+        Result<std::string> newName =
             trash.writeRecord(item.name, item.recordedPath(trash), attempt);
         if (!newName)
             return newName;

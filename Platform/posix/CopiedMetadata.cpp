@@ -143,9 +143,10 @@ Result<void> CopiedMetadata::copyAttribute(int original, int copy, const std::st
         return {};
     if (!meansCannotKeep(errno))
         return Error::fromErrno("copy the attribute " + name + " of", {});
-    if (m_note && !m_hasNoted.exchange(true))
+    if (m_note && !m_hasNoted.exchange(true)) {
         m_note("Attributes such as " + name +
                " cannot be kept at the destination and are left out");
+    }
     return {};
 }
 

@@ -17,7 +17,7 @@ Result<std::string> readSmallFile(const std::string &path, std::size_t maximumSi
     for (;;) {
         // One byte more than is allowed, to tell a file that just fits from one that does not.
         const std::size_t have = content.size();
-        const std::size_t step = std::min<std::size_t>(maximumSize - have + 1, 64 * 1024);
+        const std::size_t step = std::min<std::size_t>(maximumSize - have + 1, 65536);
         content.resize(have + step);
         const ssize_t count = readFully(file.get(), content.data() + have, step);
         if (count < 0)

@@ -60,10 +60,11 @@ void appendMessage(std::string &line, std::string_view message) {
             message.remove_prefix(control.length);
             continue;
         }
-        if (character < 0x20 || character == 0x7F)
+        if (character < 0x20 || character == 0x7F) {
             appendEscaped(line, character);
-        else
+        } else {
             line += message.front();
+        }
         message.remove_prefix(1);
     }
 }

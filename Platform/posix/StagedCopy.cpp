@@ -73,9 +73,10 @@ Result<void> StagedCopy::place(const ItemPlace &target) {
         return stoppedError(target.path);
     if (!m_isPlaced && !appear(target)) {
         const int code = errno;
-        if (m_hasDisplaced)
+        if (m_hasDisplaced) {
             static_cast<void>(moveWithoutReplacing(m_folder.descriptor(), displacedName,
                                                    target.folder, target.name.c_str()));
+        }
         m_hasDisplaced = false;
         return Error::fromErrno("create", target.path, code);
     }

@@ -145,7 +145,7 @@ void StagingFolder::sweep(int parent) {
     if (!folder)
         return;
     std::vector<std::string> found;
-    alignas(std::uint64_t) std::array<std::byte, 16 * 1024> buffer;
+    alignas(std::uint64_t) std::array<std::byte, 16384> buffer;
     DirectoryReader reader(folder.get(), buffer);
     while (const DirectoryReader::Entry *entry = reader.next()) {
         if (isName(entry->name))

@@ -11,8 +11,8 @@
 #include "Platform/posix/TreeSize.h"
 #include "Platform/posix/TreeWalk.h"
 
+#include <climits>
 #include <dirent.h>
-#include <limits.h>
 
 #include <array>
 #include <atomic>

@@ -41,7 +41,7 @@ public:
 
 private:
     bool removeItem(int folder, const char *name, unsigned char type, int depth);
-    bool removeFolder(int folder, const char *name, int depth);
+    bool removeFolder(int parent, const char *name, int depth);
     bool emptyFolder(int folder, int depth);
     bool moveUp(int folder, const char *name);
     UniqueFd openFolder(int parent, const char *name) const;

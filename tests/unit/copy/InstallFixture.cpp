@@ -32,9 +32,10 @@ InstallTest::InstallTest(const std::string &parent) : m_world(parent), m_trash(r
 }
 
 std::string InstallTest::makeProduct(const std::string &name, const std::string &version) const {
-    for (int i = 0; i < fileCount; ++i)
+    for (int i = 0; i < fileCount; ++i) {
         m_world.makeFile(name + "/Contents/" + std::to_string(i % 3) + '/' + std::to_string(i),
                          contentOfFile(version, i));
+    }
     m_world.makeFile(name + "/Contents/version", version);
     m_world.makeLink(name + "/Contents/Current", "version");
     return m_world.path(name);

@@ -153,9 +153,10 @@ TEST_F(WrapperTest, anItemThatCannotBeRemovedIsToldAndTheCopyDecides) {
     ASSERT_EQ(::chmod(m_world.path().c_str(), 0777), 0);
     ASSERT_EQ(::chmod(m_world.path("medium/Wrapper/Manual.txt").c_str(), 0644), 0);
     m_world.makeFile("Applications/Manual.txt", "of root");
-    for (const char *name : {".hidden", "Extras", "Help"})
+    for (const char *name : {".hidden", "Extras", "Help"}) {
         std::rename(m_world.path(std::string("medium/Wrapper/") + name).c_str(),
                     m_world.path(std::string("medium/") + name).c_str());
+    }
     const std::string lines = asOrdinaryUser([&] {
         const InstallResult result = installWithWrapper();
         return std::to_string(static_cast<int>(result)) + ::testing::PrintToString(errorLines());

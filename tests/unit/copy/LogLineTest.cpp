@@ -23,12 +23,12 @@ using std::chrono::system_clock;
 
 class LogLineTest : public ::testing::Test {
 protected:
-    LogLineTest() {
+    void SetUp() override {
         ::setenv("TZ", "UTC-3", 1); // three hours east of Greenwich
         ::tzset();
     }
 
-    ~LogLineTest() override {
+    void TearDown() override {
         ::unsetenv("TZ");
         ::tzset();
     }
@@ -91,7 +91,7 @@ std::string standardErrorOf(Body body) {
     body();
     ::dup2(saved.get(), STDERR_FILENO);
     writing.reset();
-    std::string text(64 * 1024, '\0');
+    std::string text(65536, '\0');
     const ssize_t count = readFully(reading.get(), text.data(), text.size());
     text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
     return text;

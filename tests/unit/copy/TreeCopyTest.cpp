@@ -34,6 +34,10 @@ using testing::itemExists;
 using testing::namesIn;
 using testing::TemporaryFolder;
 
+std::string textOf(std::size_t size) {
+    return std::string(size, 'x');
+}
+
 class TreeCopyTest : public ::testing::Test {
 protected:
     TreeCopyRequest request() const {
@@ -52,7 +56,7 @@ protected:
 TEST_F(TreeCopyTest, aTreeOfEverythingIsCopiedAlike) {
     m_world.makeFile("source/Contents/Info.plist", "<plist/>");
     m_world.makeFile("source/Contents/Linux/Product", std::string(70'000, 'x'), 0755);
-    m_world.makeFile("source/Contents/large", std::string(3'000'000, 'y'), 0640);
+    m_world.makeFile("source/Contents/large", textOf(3'000'000), 0640);
     m_world.makeFile("source/Contents/empty");
     m_world.makeFile("source/.hidden", "h", 0600);
     m_world.makeLink("source/Current", "Contents/Linux");
@@ -159,7 +163,7 @@ TEST_F(TreeCopyTest, anUnreadableFolderIsAnErrorThatNamesIt) {
 }
 
 TEST_F(TreeCopyTest, aFileThatGrowsMeanwhileIsAnError) {
-    const std::string file = m_world.makeFile("source/log", std::string(20'000'000, 'x'));
+    const std::string file = m_world.makeFile("source/log", textOf(20'000'000));
     TreeCopyRequest growing = request();
     growing.progress = [&](const CopyProgress &) { std::ofstream(file, std::ios::app) << "more"; };
     const Result<void> copied = copyTree(growing);
@@ -168,7 +172,7 @@ TEST_F(TreeCopyTest, aFileThatGrowsMeanwhileIsAnError) {
 }
 
 TEST_F(TreeCopyTest, aFileThatShrinksMeanwhileIsAnError) {
-    const std::string file = m_world.makeFile("source/log", std::string(20'000'000, 'x'));
+    const std::string file = m_world.makeFile("source/log", textOf(20'000'000));
     TreeCopyRequest shrinking = request();
     shrinking.progress = [&](const CopyProgress &) { std::filesystem::resize_file(file, 10); };
     const Result<void> copied = copyTree(shrinking);
@@ -188,9 +192,10 @@ TEST_F(TreeCopyTest, filesThatVanishMeanwhileAreAnError) {
 }
 
 TEST_F(TreeCopyTest, progressGrowsToAllBytes) {
-    for (int i = 0; i < 200; ++i)
+    for (int i = 0; i < 200; ++i) {
         m_world.makeFile("source/" + std::to_string(i % 7) + '/' + std::to_string(i),
                          std::string(static_cast<std::size_t>(i) * 100, 'x'));
+    }
     std::filesystem::create_hard_link(m_world.path("source/1/1"), m_world.path("source/second"));
     std::vector<CopyProgress> told;
     TreeCopyRequest watched = request();
@@ -208,7 +213,7 @@ TEST_F(TreeCopyTest, progressGrowsToAllBytes) {
 }
 
 TEST_F(TreeCopyTest, aStopRequestEndsTheCopyWithinALargeFile) {
-    m_world.makeFile("source/large", std::string(40'000'000, 'x'));
+    m_world.makeFile("source/large", textOf(40'000'000));
     std::stop_source stopping;
     TreeCopyRequest stopped = request();
     stopped.stop = stopping.get_token();
@@ -288,10 +293,11 @@ TEST_F(TreeCopyTest, aFolderOfManyEntriesIsCopied) {
     const UniqueFd folder = openAt(AT_FDCWD, m_world.path("source/folder").c_str(), O_RDONLY);
     for (int i = 0; i < 5000; ++i) {
         const std::string name = std::to_string(i);
-        if (i % 5 == 0)
+        if (i % 5 == 0) {
             ASSERT_EQ(::mkdirat(folder.get(), name.c_str(), 0755), 0);
-        else
+        } else {
             ASSERT_TRUE(openAt(folder.get(), name.c_str(), O_WRONLY | O_CREAT, 0644));
+        }
     }
     ASSERT_TRUE(copy());
     EXPECT_EQ(namesIn(m_world.path("target/folder")), namesIn(m_world.path("source/folder")));

@@ -51,7 +51,7 @@ private:
         ::closedir(folder);
         for (const std::string &name : names) {
             if (name != "." && name != "..")
-                collect(path + '/' + name);
+                collect(std::string(path).append(1, '/').append(name));
         }
     }
 
