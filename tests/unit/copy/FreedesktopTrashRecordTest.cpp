@@ -3,10 +3,11 @@
 
 #include "Platform/linux/FreedesktopTrashRecord.h"
 
+#include "tests/unit/copy/ScopedEnvironment.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <ostream>
 #include <string>
 
@@ -40,12 +41,9 @@ INSTANTIATE_TEST_SUITE_P(Paths, PercentEncodedPathTest,
                          [](const auto &row) { return row.param.reason; });
 
 TEST(TrashRecordTest, aRecordHoldsOriginAndLocalDate) {
-    ::setenv("TZ", "UTC-3", 1);
-    ::tzset();
+    const testing::ScopedEnvironment zone("TZ", "UTC-3");
     EXPECT_EQ(trashRecord("/opt/A b.app", 1795214152),
               "[Trash Info]\nPath=/opt/A%20b.app\nDeletionDate=2026-11-21T01:35:52\n");
-    ::unsetenv("TZ");
-    ::tzset();
 }
 
 TEST(NameInTrashTest, theFirstNameIsTheItemsOwn) {

@@ -3,6 +3,7 @@
 
 #include "Platform/linux/FreedesktopTrash.h"
 
+#include "tests/unit/copy/ScopedEnvironment.h"
 #include "tests/unit/copy/TemporaryFolder.h"
 #include "tests/unit/copy/TreeDescription.h"
 
@@ -14,8 +15,8 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <ctime>
+#include <optional>
 #include <string>
 
 namespace zt {
@@ -27,6 +28,7 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using testing::itemExists;
 using testing::namesIn;
+using testing::ScopedEnvironment;
 using testing::TemporaryFolder;
 
 // A home folder and a second "volume", both in one temporary folder: which volume an item lies on
@@ -300,12 +302,17 @@ TEST(VolumeTopDirectoryTest, theTopOfAMountedVolumeIsFound) {
 }
 
 TEST(TrashRootsTest, theDataFolderOfTheEnvironmentCounts) {
-    ::setenv("XDG_DATA_HOME", "/somewhere/data", 1);
+    const ScopedEnvironment dataHome("XDG_DATA_HOME", "/somewhere/data");
     EXPECT_EQ(FreedesktopTrash::rootsOfThisUser().dataHome, "/somewhere/data");
-    ::setenv("XDG_DATA_HOME", "relative", 1);
-    ::setenv("HOME", "/home/someone", 1);
-    EXPECT_EQ(FreedesktopTrash::rootsOfThisUser().dataHome, "/home/someone/.local/share");
-    ::unsetenv("XDG_DATA_HOME");
+}
+
+TEST(TrashRootsTest, withoutAnAbsoluteDataFolderTheOneInTheHomeFolderCounts) {
+    const ScopedEnvironment home("HOME", "/home/someone");
+    {
+        const ScopedEnvironment relative("XDG_DATA_HOME", "relative");
+        EXPECT_EQ(FreedesktopTrash::rootsOfThisUser().dataHome, "/home/someone/.local/share");
+    }
+    const ScopedEnvironment unset("XDG_DATA_HOME", std::nullopt);
     EXPECT_EQ(FreedesktopTrash::rootsOfThisUser().dataHome, "/home/someone/.local/share");
 }
 

@@ -3,6 +3,7 @@
 
 #include "Platform/posix/LogLine.h"
 #include "Platform/posix/SystemCalls.h"
+#include "tests/unit/copy/ScopedEnvironment.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,8 +12,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdlib>
-#include <ctime>
 
 namespace zt {
 namespace {
@@ -23,15 +22,7 @@ using std::chrono::system_clock;
 
 class LogLineTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ::setenv("TZ", "UTC-3", 1); // three hours east of Greenwich
-        ::tzset();
-    }
-
-    void TearDown() override {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
+    testing::ScopedEnvironment m_zone{"TZ", "UTC-3"}; // three hours east of Greenwich
 };
 
 TEST_F(LogLineTest, aLineHasLocalTimeProgramAndProcess) {

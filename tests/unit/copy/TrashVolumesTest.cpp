@@ -144,7 +144,7 @@ TEST_F(TrashVolumesTest, theRecordOnAVolumeIsTheOneThatTheDesktopWrites) {
         for (const std::string &name : namesIn(trashOfVolume() + "/info")) {
             const std::string theirs = originIn(trashOfVolume() + "/info/" + name);
             if (theirs != ourOrigin)
-                return theirs + " is not " + ourOrigin;
+                return std::string(theirs).append(" is not ").append(ourOrigin);
         }
         return std::to_string(namesIn(trashOfVolume() + "/info").size());
     });
