@@ -3,9 +3,10 @@
 
 #include "benchmarks/startup/FirstPaint.h"
 
+#include <csignal> // kill
 #include <cstdlib>
+
 #include <poll.h>
-#include <signal.h> // kill
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h> // environ
