@@ -7,14 +7,19 @@
 
 namespace zt {
 
+class Accessibility;
 class Appearance;
+class ApplicationEvents;
 class Bundles;
 class Clock;
 class Log;
 class LoginItems;
+class ProcessManager;
+class RunningApplications;
 class SystemVersion;
 class Trash;
 class UserDefaults;
+class WindowSystem;
 class Workspace;
 
 // References to services that outlive it.
@@ -28,6 +33,11 @@ struct Platform {
     Workspace &workspace;
     Appearance &appearance;
     Trash &trash;
+    WindowSystem &windowSystem;
+    ProcessManager &processManager;
+    RunningApplications &runningApplications;
+    ApplicationEvents &applicationEvents;
+    Accessibility &accessibility;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

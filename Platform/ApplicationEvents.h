@@ -1,0 +1,48 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Events sent to other applications: activate, open, quit.
+
+#include <chrono>
+#include <cstdint>
+#include <optional>
+
+namespace zt {
+
+// Error numbers are the reference platform's; 0 is success. Thread: any, not the main thread of the
+// receiver.
+class ApplicationEvents {
+public:
+    // An event that is made but not sent yet.
+    struct Event {
+        std::uint32_t eventClass = 0; // four-character codes, as 'aevt'
+        std::uint32_t eventId = 0;    // as 'quit'
+        std::int32_t targetPid = 0;
+    };
+
+    static constexpr std::int32_t noError = 0;
+    static constexpr std::int32_t processNotFound = -600;   // procNotFound
+    static constexpr std::int32_t eventNotHandled = -1708;  // errAEEventNotHandled
+    static constexpr std::int32_t eventTimedOut = -1712;    // errAETimeout
+    static constexpr std::int32_t connectionInvalid = -609; // connectionInvalid
+
+    virtual ~ApplicationEvents() = default;
+
+    // Whether the target can be addressed at all: noError, or processNotFound.
+    virtual std::int32_t checkAddress(std::int32_t targetPid) = 0;
+
+    // Sends the event and does not wait for an answer.
+    virtual std::int32_t sendWithoutReply(const Event &event) = 0;
+
+    // Sends the event and waits for the answer, at most `timeoutTicks` sixtieths of a second.
+    virtual std::int32_t sendAndWait(const Event &event, std::int32_t timeoutTicks) = 0;
+
+protected:
+    ApplicationEvents() = default;
+    ApplicationEvents(const ApplicationEvents &) = default;
+    ApplicationEvents &operator=(const ApplicationEvents &) = default;
+};
+
+} // namespace zt
