@@ -10,6 +10,7 @@
 #include "Platform/ProcessManager.h"
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/LazyFact.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/Ordering.h"
 
 #include <QIcon>
@@ -49,7 +50,9 @@ double proc_cpu_time(std::int32_t pid);
 // on answering what it has been asked before. Facts are gathered when they are first asked for and
 // then kept. Thread: any, except where said.
 class ZTProcess final : public std::enable_shared_from_this<ZTProcess> {
-    struct CreationKey {};
+    struct CreationKey {
+        explicit CreationKey() = default;
+    };
 
 public:
     using Pointer = std::shared_ptr<ZTProcess>;
@@ -208,27 +211,24 @@ public:
     void unregisterAXNotifications();
 
 private:
-    enum class CocoaStatus { Unknown, Cocoa, NotCocoa };
-
-    template <typename Value, typename Read>
-    std::optional<Value> remembered(std::optional<Value> &fact, Read read) const;
-    bool getProcessInfo() const;
-    CocoaStatus determineCocoaStatus() const;
+    std::optional<zt::ProcessInformation> information() const;
+    bool determineIsCocoa() const;
     QString determineVersion() const;
+    std::chrono::system_clock::time_point determineLaunchDate() const;
 
     const zt::Platform &m_platform;
     const zt::ProcessSerialNumber m_serialNumber;
 
-    // Guards the facts and the attached values. Never held while the platform is asked.
-    mutable std::mutex m_mutex;
-    mutable std::optional<zt::ProcessInformation> m_information;
-    mutable std::optional<QString> m_displayName;
-    mutable std::optional<QString> m_path;
-    mutable std::optional<QVariantMap> m_infoDictionary;
-    mutable std::optional<QString> m_version;
-    mutable std::optional<std::chrono::system_clock::time_point> m_launchDate;
-    mutable std::optional<QIcon> m_icon;
-    mutable CocoaStatus m_cocoaStatus = CocoaStatus::Unknown;
+    LazyFact<zt::ProcessInformation> m_information;
+    LazyFact<QString> m_displayName;
+    LazyFact<QString> m_path;
+    LazyFact<QVariantMap> m_infoDictionary;
+    LazyFact<QString> m_version;
+    LazyFact<std::chrono::system_clock::time_point> m_launchDate;
+    LazyFact<QIcon> m_icon;
+    LazyFact<bool> m_isCocoa;
+
+    mutable std::mutex m_customInfoMutex;
     QVariantMap m_customInfo;
 
     // Accessibility, used on the main thread alone. The element stands once the application was

@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Platform/linux/ProcPrograms.h"
+
+#include "Platform/MacRoman.h"
+#include "Platform/linux/ProcScript.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+namespace zt {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::uint32_t noSignature = 0x3F3F3F3F; // "????"
+constexpr qsizetype maximumNameBytes = 255;
+
+QString decoded(std::string_view path) {
+    return QFile::decodeName(QByteArray(path.data(), static_cast<qsizetype>(path.size())));
+}
+
+// The record of a process has room for so many bytes. A character is not cut in two.
+QString cutToRecord(const QString &name) {
+    QByteArray bytes = name.toUtf8();
+    if (bytes.size() <= maximumNameBytes)
+        return name;
+    qsizetype end = maximumNameBytes;
+    while (end > 0 && (static_cast<unsigned char>(bytes[end]) & 0xC0) == 0x80)
+        --end;
+    return QString::fromUtf8(bytes.constData(), end);
+}
+
+QString nameOfBundle(const Bundle &bundle) {
+    if (const auto name = bundle.stringForKey(u"CFBundleName"_s); name && !name->isEmpty())
+        return *name;
+    if (!bundle.executablePath().isEmpty())
+        return QFileInfo(bundle.executablePath()).fileName();
+    return QFileInfo(bundle.path()).completeBaseName();
+}
+
+std::uint32_t signatureOfBundle(const Bundle &bundle) {
+    const auto text = bundle.stringForKey(u"CFBundleSignature"_s);
+    return text ? fourCharacterCode(*text).value_or(noSignature) : noSignature;
+}
+
+Program programOf(const Bundle &bundle) {
+    return {.name = cutToRecord(nameOfBundle(bundle)),
+            .signature = signatureOfBundle(bundle),
+            .location = bundle.path(),
+            .isInBundle = true,
+            .information = bundle.infoDictionary()};
+}
+
+// The kernel cuts the name that it keeps; the first argument may have it whole.
+QString nameWithoutLink(const ProcFs &procFs, const ProcStat &stat) {
+    constexpr std::size_t keptBytes = 15;
+    std::string name = stat.name;
+    if (name.size() == keptBytes) {
+        const std::vector<std::string> arguments = procFs.commandLine(stat.pid);
+        const std::string first = arguments.empty() ? std::string() : arguments.front();
+        const std::string fileName = first.substr(first.rfind('/') + 1);
+        if (fileName.starts_with(name))
+            name = fileName;
+    }
+    return name.empty() ? QString::number(stat.pid) : QString::fromStdString(name);
+}
+
+bool isSameRun(const ProcStat &a, const ProcStat &b) {
+    return a.startTicks == b.startTicks && a.image == b.image;
+}
+
+// The path of the program. A file that is itself named as if it were deleted is told from one that
+// is deleted by looking whether it is there.
+struct ProgramPath {
+    std::string path;
+    bool isDeleted = false;
+};
+
+ProgramPath programPathOf(const ProcFs &procFs, std::int32_t pid, const std::string &link) {
+    const MarkedPath marked = splitDeletedMark(link);
+    if (!marked.hasDeletedMark)
+        return {link, false};
+    struct stat named = {};
+    const std::optional<struct stat> program = procFs.programStatus(pid);
+    if (program && ::stat(link.c_str(), &named) == 0 && named.st_dev == program->st_dev &&
+        named.st_ino == program->st_ino)
+        return {link, false};
+    return {std::string(marked.path), true};
+}
+
+} // namespace
+
+std::optional<ProcPrograms::Observation>
+ProcPrograms::observe(std::int32_t pid, const std::optional<std::string> &link, Memory *memory) {
+    std::optional<ProcStat> stat = m_procFs.stat(pid);
+    if (!stat || !stat->isRunning())
+        return std::nullopt;
+    std::optional<Known> known = knownOf(*stat);
+    if (known && known->image == stat->image && known->link == link)
+        return Observation{std::move(*stat), known->program, known->isApplication};
+
+    // The process may load another program, or end, between two looks at it; then what was read
+    // does not belong together, and is read again.
+    constexpr int maximumAttempts = 5;
+    for (int attempt = 0; attempt < maximumAttempts; ++attempt) {
+        Known fresh;
+        fresh.startTicks = stat->startTicks;
+        fresh.image = stat->image;
+        fresh.link = m_procFs.programLink(pid);
+        const bool isSameImage = known && known->image == stat->image;
+        if (isSameImage && known->program->isInBundle && fresh.link)
+            fresh.program = afterMove(*known, programPathOf(m_procFs, pid, *fresh.link).path);
+        else
+            fresh.program = identify(*stat, fresh.link, memory);
+        if (known && isSameImage)
+            fresh.user = known->user;
+        fresh.isApplication = known && known->isApplication;
+
+        const std::optional<ProcStat> now = m_procFs.stat(pid);
+        if (!now || !now->isRunning())
+            return std::nullopt;
+        if (isSameRun(*now, *stat)) {
+            Observation observation{*now, fresh.program, fresh.isApplication};
+            remember(*now, std::move(fresh));
+            return observation;
+        }
+        stat = now;
+        known = knownOf(*stat);
+    }
+    return std::nullopt;
+}
+
+std::optional<ProcPrograms::Known> ProcPrograms::knownOf(const ProcStat &stat) {
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_known.find(stat.pid);
+    if (found == m_known.end() || found->second.startTicks != stat.startTicks)
+        return std::nullopt;
+    return found->second;
+}
+
+void ProcPrograms::noteApplication(const ProcStat &stat) {
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_known.find(stat.pid);
+    if (found != m_known.end() && found->second.startTicks == stat.startTicks)
+        found->second.isApplication = true;
+}
+
+std::optional<uid_t> ProcPrograms::userOf(const ProcStat &stat) {
+    if (const std::optional<Known> known = knownOf(stat); known && known->user)
+        return known->user;
+    const std::optional<uid_t> user = m_procFs.effectiveUser(stat.pid);
+    const std::scoped_lock lock(m_mutex);
+    const auto found = m_known.find(stat.pid);
+    if (found != m_known.end() && found->second.startTicks == stat.startTicks)
+        found->second.user = user;
+    return user;
+}
+
+ProcPrograms::Pointer ProcPrograms::identify(const ProcStat &stat,
+                                             const std::optional<std::string> &link,
+                                             Memory *memory) const {
+    if (!link) {
+        const Program unreadable{.name = cutToRecord(nameWithoutLink(m_procFs, stat)),
+                                 .signature = noSignature,
+                                 .location = {},
+                                 .isInBundle = false,
+                                 .information = {}};
+        return std::make_shared<const Program>(unreadable);
+    }
+    const ProgramPath program = programPathOf(m_procFs, stat.pid, *link);
+    if (Pointer bundled = identifyBundled(program.path, program.isDeleted, memory))
+        return bundled;
+    if (const auto script = bundledScriptOf(m_procFs, stat.pid, program.path)) {
+        if (Pointer bundled = identifyBundled(*script, false, memory))
+            return bundled;
+    }
+    const QString path = decoded(program.path);
+    const Program plain{.name = cutToRecord(QFileInfo(path).fileName()),
+                        .signature = noSignature,
+                        .location = path,
+                        .isInBundle = false,
+                        .information = {}};
+    return std::make_shared<const Program>(plain);
+}
+
+ProcPrograms::Pointer ProcPrograms::identifyBundled(const std::string &path, bool isDeleted,
+                                                    Memory *memory) const {
+    const std::string_view folder = innermostBundlePath(path);
+    if (folder.empty())
+        return nullptr;
+    const std::string key(folder);
+    if (memory && memory->contains(key))
+        return memory->at(key);
+    Pointer program;
+    if (const std::optional<Bundle> bundle = m_bundles.bundleEnclosing(decoded(path))) {
+        program = std::make_shared<const Program>(programOf(*bundle));
+    } else if (isDeleted) {
+        // The bundle went together with its program. Its name is all that is left of it.
+        const QString location = decoded(folder);
+        const Program gone{.name = cutToRecord(QFileInfo(location).completeBaseName()),
+                           .signature = noSignature,
+                           .location = location,
+                           .isInBundle = true,
+                           .information = {}};
+        return std::make_shared<const Program>(gone);
+    }
+    if (memory)
+        memory->emplace(key, program);
+    return program;
+}
+
+// The process goes on running what it was started from, whatever stands at that place now: only the
+// location is another. Where the program is an interpreter, it is not the bundle that has moved.
+ProcPrograms::Pointer ProcPrograms::afterMove(const Known &before, const std::string &path) const {
+    if (!before.link || innermostBundlePath(splitDeletedMark(*before.link).path).empty())
+        return before.program;
+    Program moved = *before.program;
+    moved.location = locationOf(path);
+    return std::make_shared<const Program>(std::move(moved));
+}
+
+QString ProcPrograms::locationOf(const std::string &path) const {
+    if (const std::optional<Bundle> bundle = m_bundles.bundleEnclosing(decoded(path)))
+        return bundle->path();
+    const std::string_view folder = innermostBundlePath(path);
+    return decoded(folder.empty() ? std::string_view(path) : folder);
+}
+
+void ProcPrograms::remember(const ProcStat &stat, Known known) {
+    const std::scoped_lock lock(m_mutex);
+    m_known.insert_or_assign(stat.pid, std::move(known));
+    if (m_known.size() > m_sizeToClean)
+        forgetEnded();
+}
+
+// The caller holds the mutex. What has ended is looked for each time the number has doubled, so
+// that remembering one costs the same however many there are.
+void ProcPrograms::forgetEnded() {
+    std::erase_if(m_known, [this](const auto &entry) {
+        const std::optional<ProcStat> stat = m_procFs.stat(entry.first);
+        return !stat || stat->startTicks != entry.second.startTicks;
+    });
+    m_sizeToClean = std::max<std::size_t>(1024, 2 * m_known.size());
+}
+
+} // namespace zt

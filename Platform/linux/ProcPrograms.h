@@ -1,0 +1,93 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the programs that run are: their bundles, names and signatures.
+
+#include "Platform/Bundles.h"
+#include "Platform/linux/ProcFs.h"
+
+#include <QString>
+#include <QVariantMap>
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+namespace zt {
+
+// What is known of one program. Does not change once it is made.
+struct Program {
+    QString name;                // never empty
+    std::uint32_t signature = 0; // "????" as a number when it has none
+    QString location;            // the bundle's folder, else the program file; may be empty
+    bool isInBundle = false;
+    QVariantMap information; // of the bundle; empty when there is none or it could not be read
+};
+
+// Finds out what the processes run, and remembers it for each process as long as it runs that
+// program. Thread: any.
+class ProcPrograms {
+public:
+    using Pointer = std::shared_ptr<const Program>;
+
+    // Programs that were found within one look at many processes. Many processes run the same
+    // program; but one that starts later may find another at the same path.
+    using Memory = std::unordered_map<std::string, Pointer>;
+
+    // One process at one moment.
+    struct Observation {
+        ProcStat stat;
+        Pointer program; // never null
+        // Whether noteApplication() was called for the process.
+        bool isKnownApplication = false;
+    };
+
+    // Both outlive this object.
+    ProcPrograms(const ProcFs &procFs, const Bundles &bundles)
+        : m_procFs(procFs)
+        , m_bundles(bundles) {}
+
+    // What the process is now; `link` is its ProcFs::programLink, read just before. No value when
+    // the process does not run any more.
+    std::optional<Observation> observe(std::int32_t pid, const std::optional<std::string> &link,
+                                       Memory *memory = nullptr);
+
+    // Remembers, until the process ends, that it showed itself to be an application, so that it
+    // does not stop being one when its last window is hidden.
+    void noteApplication(const ProcStat &stat);
+
+    // The user whose rights the process has.
+    std::optional<uid_t> userOf(const ProcStat &stat);
+
+private:
+    struct Known {
+        std::uint64_t startTicks = 0;
+        std::uint64_t image = 0;
+        std::optional<std::string> link;
+        Pointer program;
+        std::optional<uid_t> user;
+        bool isApplication = false;
+    };
+
+    std::optional<Known> knownOf(const ProcStat &stat);
+    Pointer identify(const ProcStat &stat, const std::optional<std::string> &link,
+                     Memory *memory) const;
+    Pointer identifyBundled(const std::string &path, bool isDeleted, Memory *memory) const;
+    Pointer afterMove(const Known &before, const std::string &path) const;
+    QString locationOf(const std::string &path) const;
+    void remember(const ProcStat &stat, Known known);
+    void forgetEnded();
+
+    const ProcFs &m_procFs;
+    const Bundles &m_bundles;
+    std::mutex m_mutex;
+    std::unordered_map<std::int32_t, Known> m_known;
+    std::size_t m_sizeToClean = 1024;
+};
+
+} // namespace zt

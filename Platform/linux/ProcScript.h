@@ -1,0 +1,37 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Which script a process runs, when the program that the kernel sees is only an interpreter.
+
+#include "Platform/linux/ProcFs.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zt {
+
+// Whether a program of that file name runs scripts that it is given: "python3.11", "bash".
+// Thread: any.
+bool isInterpreterName(std::string_view fileName);
+
+// The arguments of which the first that names a file may be the script: those that are no options,
+// up to an option that brings the program text itself. Element 0, the program, is left out.
+// Thread: any.
+std::vector<std::string> possibleScripts(const std::vector<std::string> &arguments);
+
+// The interpreter in the first line of a script ("#!/usr/bin/env python3" names "python3"); empty
+// when the line names none. Thread: any.
+std::string_view interpreterOfScript(std::string_view content);
+
+// The path of the script in a bundle that the process runs, whose program is the file at
+// `programPath`. No value when it runs none, or one that lies in no bundle. A file that the process
+// was merely given to work on does not count. Thread: any.
+std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
+                                           const std::string &programPath);
+
+} // namespace zt
