@@ -65,10 +65,12 @@ std::optional<zt::Bundle> FakeBundles::bundleAtPath(const QString &path) const {
     const auto found = m_bundles.constFind(path);
     if (found == m_bundles.cend())
         return std::nullopt;
-    return zt::Bundle({.path = path,
-                       .resourcesPath = path + u"/Contents/Resources"_s,
-                       .executablePath = {},
-                       .information = *found});
+    const QString program = found->value(u"CFBundleExecutable"_s).toString();
+    return zt::Bundle(
+        {.path = path,
+         .resourcesPath = path + u"/Contents/Resources"_s,
+         .executablePath = program.isEmpty() ? QString() : path + u"/Contents/Linux/"_s + program,
+         .information = *found});
 }
 
 std::optional<zt::Bundle> FakeBundles::bundleEnclosing(const QString &path) const {

@@ -17,6 +17,12 @@
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
 
+#include "tests/fakes/FakeAccessibility.h"
+#include "tests/fakes/FakeApplicationEvents.h"
+#include "tests/fakes/FakeProcessManager.h"
+#include "tests/fakes/FakeRunningApplications.h"
+#include "tests/fakes/FakeWindowSystem.h"
+
 #include <QMap>
 #include <QStringList>
 
@@ -165,7 +171,24 @@ struct FakePlatform {
     FakeWorkspace workspace;
     FakeAppearance appearance;
     FakeTrash trash;
-    zt::Platform services{log,        clock,     bundles,    userDefaults, systemVersion,
-                          loginItems, workspace, appearance, trash};
+    FakeWindowSystem windowSystem;
+    FakeProcessManager processManager;
+    FakeRunningApplications runningApplications;
+    FakeApplicationEvents applicationEvents;
+    FakeAccessibility accessibility;
+    zt::Platform services{.log = log,
+                          .clock = clock,
+                          .bundles = bundles,
+                          .userDefaults = userDefaults,
+                          .systemVersion = systemVersion,
+                          .loginItems = loginItems,
+                          .workspace = workspace,
+                          .appearance = appearance,
+                          .trash = trash,
+                          .windowSystem = windowSystem,
+                          .processManager = processManager,
+                          .runningApplications = runningApplications,
+                          .applicationEvents = applicationEvents,
+                          .accessibility = accessibility};
     zt::ScopedPlatform current{services};
 };

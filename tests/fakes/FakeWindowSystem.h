@@ -1,0 +1,41 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Windows of other programs for unit tests.
+
+#include "Platform/WindowSystem.h"
+
+// Holds what the test puts in, and records what is asked of it.
+class FakeWindowSystem final : public zt::WindowSystem {
+public:
+    QList<std::int32_t> processesWithWindows() const override { return owners; }
+    std::optional<std::int32_t> frontProcess() const override { return front; }
+    void bringToFront(std::int32_t pid, Windows windows) override {
+        broughtToFront << pid;
+        whichWindows << windows;
+    }
+    void setHidden(std::int32_t pid, bool hidden) override {
+        (hidden ? hiddenProcesses : shownProcesses) << pid;
+    }
+    int requestClose(std::int32_t pid) override {
+        closeRequests << pid;
+        return static_cast<int>(owners.count(pid));
+    }
+    void setChangeListeners(std::function<void()> frontChanged,
+                            std::function<void()> windowsChanged) override {
+        tellFrontChanged = std::move(frontChanged);
+        tellWindowsChanged = std::move(windowsChanged);
+    }
+
+    QList<std::int32_t> owners;
+    std::optional<std::int32_t> front;
+    QList<std::int32_t> broughtToFront;
+    QList<Windows> whichWindows;
+    QList<std::int32_t> hiddenProcesses;
+    QList<std::int32_t> shownProcesses;
+    QList<std::int32_t> closeRequests;
+    std::function<void()> tellFrontChanged;
+    std::function<void()> tellWindowsChanged;
+};
