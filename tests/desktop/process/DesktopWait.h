@@ -1,0 +1,28 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Waiting for what other programs do.
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QThread>
+
+#include <concepts>
+
+// Lets events be handled until the condition holds. False when it does not come to hold for so long
+// that something must be wrong.
+template <std::predicate Condition>
+bool comesToHold(Condition condition) {
+    constexpr int hopeless = 30'000; // milliseconds
+    const QDeadlineTimer deadline(hopeless);
+    while (!condition()) {
+        if (deadline.hasExpired())
+            return false;
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        QThread::msleep(2);
+    }
+    return true;
+}
