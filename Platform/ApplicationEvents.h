@@ -5,9 +5,7 @@
 
 // Events sent to other applications: activate, open, quit.
 
-#include <chrono>
 #include <cstdint>
-#include <optional>
 
 namespace zt {
 
@@ -15,7 +13,7 @@ namespace zt {
 // receiver.
 class ApplicationEvents {
 public:
-    // An event that is made but not sent yet.
+    // What is sent, and to whom.
     struct Event {
         std::uint32_t eventClass = 0; // four-character codes, as 'aevt'
         std::uint32_t eventId = 0;    // as 'quit'
@@ -33,10 +31,15 @@ public:
     // Whether the target can be addressed at all: noError, or processNotFound.
     virtual std::int32_t checkAddress(std::int32_t targetPid) = 0;
 
-    // Sends the event and does not wait for an answer.
+    // Whether there is a way to send the event: noError, or connectionInvalid.
+    virtual std::int32_t checkEvent(const Event &event) = 0;
+
+    // Sends the event and does not wait for an answer. noError when it was sent; what becomes of it
+    // is not known then.
     virtual std::int32_t sendWithoutReply(const Event &event) = 0;
 
-    // Sends the event and waits for the answer, at most `timeoutTicks` sixtieths of a second.
+    // Sends the event and waits for the answer, at most `timeoutTicks` sixtieths of a second, or a
+    // minute when that is negative. noError when the target carried it out.
     virtual std::int32_t sendAndWait(const Event &event, std::int32_t timeoutTicks) = 0;
 
 protected:
