@@ -8,7 +8,10 @@
 #include <string>
 
 #include <poll.h>
+#include <signal.h> // siginfo_t
+extern "C" {        // which the header of older C libraries forgets to say
 #include <sys/pidfd.h>
+}
 
 namespace zt {
 
