@@ -8,8 +8,8 @@
 
 #include <poll.h>
 #include <sys/epoll.h>
-#include <sys/pidfd.h>
 #include <sys/resource.h>
+#include <sys/syscall.h> // pidfd_open, which the C library offers to C programs alone
 
 #include <algorithm>
 #include <array>
@@ -49,7 +49,7 @@ bool HeldProcesses::hold(ProcessSerialNumber process) {
         if (!m_events || m_holds.size() >= m_maximumCount)
             return false;
     }
-    UniqueFd descriptor(::pidfd_open(pid, 0));
+    UniqueFd descriptor(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)));
     if (!descriptor)
         return false;
     // Looked up after the descriptor was opened: it is this process's if the id still is.

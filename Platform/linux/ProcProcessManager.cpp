@@ -10,8 +10,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
-#include <signal.h> // SIGCONT
-#include <sys/pidfd.h>
+#include <signal.h>      // SIGCONT
+#include <sys/syscall.h> // pidfd_open, which the C library offers to C programs alone
 #include <time.h>
 #include <unistd.h>
 
@@ -193,11 +193,11 @@ void ProcProcessManager::wakeUp(ProcessSerialNumber process) {
     if (pid <= 0)
         return;
     // Opened before the process is looked at, so that the signal can reach no other.
-    const UniqueFd descriptor(::pidfd_open(pid, 0));
+    const UniqueFd descriptor(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)));
     const std::optional<ProcStat> stat = m_procFs.stat(pid);
     if (!descriptor || !stat || serialNumberOf(*stat) != process || stat->state != 'T')
         return;
-    ::pidfd_send_signal(descriptor.get(), SIGCONT, nullptr, 0);
+    ::syscall(SYS_pidfd_send_signal, descriptor.get(), SIGCONT, nullptr, 0);
 }
 
 void ProcProcessManager::setEventListener(std::function<void(Event)> listener) {

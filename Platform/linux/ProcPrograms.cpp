@@ -75,6 +75,11 @@ bool isSameRun(const ProcStat &a, const ProcStat &b) {
     return a.startTicks == b.startTicks && a.image == b.image;
 }
 
+// Whether the bundle is the one in which the program file lies, and not that of a script.
+bool isFoundByPath(const Program &program, const std::optional<std::string> &link) {
+    return program.isInBundle && link && !innermostBundlePath(splitDeletedMark(*link).path).empty();
+}
+
 // The path of the program. A file that is itself named as if it were deleted is told from one that
 // is deleted by looking whether it is there.
 struct ProgramPath {
@@ -99,41 +104,52 @@ ProgramPath programPathOf(const ProcFs &procFs, std::int32_t pid, const std::str
 std::optional<ProcPrograms::Observation>
 ProcPrograms::observe(std::int32_t pid, const std::optional<std::string> &link, Memory *memory) {
     std::optional<ProcStat> stat = m_procFs.stat(pid);
-    if (!stat || !stat->isRunning())
-        return std::nullopt;
-    std::optional<Known> known = knownOf(*stat);
-    if (known && known->image == stat->image && known->link == link)
-        return Observation{std::move(*stat), known->program, known->isApplication};
-
     // The process may load another program, or end, between two looks at it; then what was read
     // does not belong together, and is read again.
     constexpr int maximumAttempts = 5;
     for (int attempt = 0; attempt < maximumAttempts; ++attempt) {
-        Known fresh;
-        fresh.startTicks = stat->startTicks;
-        fresh.image = stat->image;
-        fresh.link = m_procFs.programLink(pid);
-        const bool isSameImage = known && known->image == stat->image;
-        if (isSameImage && known->program->isInBundle && fresh.link)
-            fresh.program = afterMove(*known, programPathOf(m_procFs, pid, *fresh.link).path);
-        else
-            fresh.program = identify(*stat, fresh.link, memory);
-        if (known && isSameImage)
-            fresh.user = known->user;
-        fresh.isApplication = known && known->isApplication;
-
-        const std::optional<ProcStat> now = m_procFs.stat(pid);
-        if (!now || !now->isRunning())
+        if (!stat || !stat->isRunning())
             return std::nullopt;
-        if (isSameRun(*now, *stat)) {
-            Observation observation{*now, fresh.program, fresh.isApplication};
-            remember(*now, std::move(fresh));
+        const std::optional<Known> known = knownOf(*stat);
+        if (attempt == 0 && known && known->link == link &&
+            (known->image == stat->image || isFoundByPath(*known->program, link)))
+            return Observation{std::move(*stat), known->program, known->isApplication};
+
+        Known fresh = lookClosely(*stat, known, memory);
+        std::optional<ProcStat> now = m_procFs.stat(pid);
+        if (now && now->isRunning() && isSameRun(*now, *stat)) {
+            Observation observation{std::move(*now), fresh.program, fresh.isApplication};
+            remember(pid, std::move(fresh));
             return observation;
         }
-        stat = now;
-        known = knownOf(*stat);
+        stat = std::move(now);
     }
     return std::nullopt;
+}
+
+ProcPrograms::Known ProcPrograms::lookClosely(const ProcStat &stat,
+                                              const std::optional<Known> &known,
+                                              Memory *memory) const {
+    Known fresh;
+    fresh.startTicks = stat.startTicks;
+    fresh.image = stat.image;
+    fresh.link = m_procFs.programLink(stat.pid);
+    if (const std::optional<struct stat> status = m_procFs.programStatus(stat.pid))
+        fresh.file = FileIdentity{status->st_dev, status->st_ino};
+    if (known) {
+        fresh.isApplication = known->isApplication;
+        if (known->image == fresh.image)
+            fresh.user = known->user;
+    }
+    const bool isSameFile = known && fresh.link && fresh.file && known->file == fresh.file;
+    if (isSameFile && isFoundByPath(*known->program, known->link))
+        fresh.program =
+            afterMove(*known->program, programPathOf(m_procFs, stat.pid, *fresh.link).path);
+    else if (isSameFile && known->program->isInBundle && known->image == fresh.image)
+        fresh.program = known->program; // only the interpreter of its script was moved
+    else
+        fresh.program = identify(stat, fresh.link, memory);
+    return fresh;
 }
 
 std::optional<ProcPrograms::Known> ProcPrograms::knownOf(const ProcStat &stat) {
@@ -216,11 +232,10 @@ ProcPrograms::Pointer ProcPrograms::identifyBundled(const std::string &path, boo
 }
 
 // The process goes on running what it was started from, whatever stands at that place now: only the
-// location is another. Where the program is an interpreter, it is not the bundle that has moved.
-ProcPrograms::Pointer ProcPrograms::afterMove(const Known &before, const std::string &path) const {
-    if (!before.link || innermostBundlePath(splitDeletedMark(*before.link).path).empty())
-        return before.program;
-    Program moved = *before.program;
+// location is another.
+ProcPrograms::Pointer ProcPrograms::afterMove(const Program &before,
+                                              const std::string &path) const {
+    Program moved = before;
     moved.location = locationOf(path);
     return std::make_shared<const Program>(std::move(moved));
 }
@@ -232,9 +247,9 @@ QString ProcPrograms::locationOf(const std::string &path) const {
     return decoded(folder.empty() ? std::string_view(path) : folder);
 }
 
-void ProcPrograms::remember(const ProcStat &stat, Known known) {
+void ProcPrograms::remember(std::int32_t pid, Known known) {
     const std::scoped_lock lock(m_mutex);
-    m_known.insert_or_assign(stat.pid, std::move(known));
+    m_known.insert_or_assign(pid, std::move(known));
     if (m_known.size() > m_sizeToClean)
         forgetEnded();
 }

@@ -65,22 +65,33 @@ public:
     std::optional<uid_t> userOf(const ProcStat &stat);
 
 private:
+    // Tells a file from all others, whatever its name.
+    struct FileIdentity {
+        dev_t device = 0;
+        ino_t number = 0;
+
+        bool operator==(const FileIdentity &) const = default;
+    };
+
     struct Known {
         std::uint64_t startTicks = 0;
-        std::uint64_t image = 0;
+        std::uint64_t image = 0; // see ProcStat
         std::optional<std::string> link;
+        std::optional<FileIdentity> file;
         Pointer program;
         std::optional<uid_t> user;
         bool isApplication = false;
     };
 
     std::optional<Known> knownOf(const ProcStat &stat);
+    Known lookClosely(const ProcStat &stat, const std::optional<Known> &known,
+                      Memory *memory) const;
     Pointer identify(const ProcStat &stat, const std::optional<std::string> &link,
                      Memory *memory) const;
     Pointer identifyBundled(const std::string &path, bool isDeleted, Memory *memory) const;
-    Pointer afterMove(const Known &before, const std::string &path) const;
+    Pointer afterMove(const Program &before, const std::string &path) const;
     QString locationOf(const std::string &path) const;
-    void remember(const ProcStat &stat, Known known);
+    void remember(std::int32_t pid, Known known);
     void forgetEnded();
 
     const ProcFs &m_procFs;

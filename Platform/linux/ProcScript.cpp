@@ -28,6 +28,21 @@ bool isBlank(char character) {
     return character == ' ' || character == '\t';
 }
 
+// Whether the option says that the program text stands in the arguments, or names a module.
+bool bringsProgram(std::string_view interpreterName, std::string_view option) {
+    if (option == "--eval" || option == "--print")
+        return true;
+    if (option.size() < 2 || option.front() != '-' || option[1] == '-')
+        return false;
+    // Options of one letter may be written as one: "sh -ec", "perl -ne".
+    if (interpreterName == "busybox" || interpreterName.find("sh") != std::string_view::npos)
+        return option.find('c') != std::string_view::npos;
+    if (interpreterName == "java")
+        return false;
+    constexpr std::string_view programLetters = "ceEmp";
+    return programLetters.find(option.back()) != std::string_view::npos;
+}
+
 std::string_view takeWord(std::string_view &text) {
     text.remove_prefix(
         static_cast<std::size_t>(std::ranges::find_if_not(text, isBlank) - text.begin()));
@@ -77,12 +92,12 @@ bool isInterpreterName(std::string_view fileName) {
     return std::ranges::find(interpreters, fileName.substr(0, last + 1)) != std::end(interpreters);
 }
 
-std::vector<std::string> possibleScripts(const std::vector<std::string> &arguments) {
-    constexpr std::string_view programFollows[] = {"-c", "-e", "-E", "-m", "--eval", "-p"};
+std::vector<std::string> possibleScripts(std::string_view interpreterName,
+                                         const std::vector<std::string> &arguments) {
     std::vector<std::string> scripts;
     for (std::size_t index = 1; index < arguments.size(); ++index) {
         const std::string &argument = arguments[index];
-        if (std::ranges::find(programFollows, argument) != std::end(programFollows))
+        if (bringsProgram(interpreterName, argument))
             break;
         if (!argument.empty() && argument.front() != '-')
             scripts.push_back(argument);
@@ -105,8 +120,9 @@ std::string_view interpreterOfScript(std::string_view content) {
 
 std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
                                            const std::string &programPath) {
+    const std::string_view programName = fileNameOf(programPath);
     std::optional<std::string> folder;
-    for (std::string script : possibleScripts(procFs.commandLine(pid))) {
+    for (std::string script : possibleScripts(programName, procFs.commandLine(pid))) {
         if (script.front() != '/') {
             if (!folder)
                 folder = procFs.workingFolder(pid).value_or(std::string());
@@ -117,7 +133,7 @@ std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pi
         script = realPath(script);
         if (innermostBundlePath(script).empty())
             return std::nullopt;
-        if (!isInterpreterName(fileNameOf(programPath)) && !namesInterpreter(script, programPath))
+        if (!isInterpreterName(programName) && !namesInterpreter(script, programPath))
             return std::nullopt;
         return script;
     }

@@ -20,9 +20,10 @@ namespace zt {
 bool isInterpreterName(std::string_view fileName);
 
 // The arguments of which the first that names a file may be the script: those that are no options,
-// up to an option that brings the program text itself. Element 0, the program, is left out.
-// Thread: any.
-std::vector<std::string> possibleScripts(const std::vector<std::string> &arguments);
+// up to an option that brings the program text itself, which is another one for each interpreter.
+// Element 0 of the arguments is left out. Thread: any.
+std::vector<std::string> possibleScripts(std::string_view interpreterName,
+                                         const std::vector<std::string> &arguments);
 
 // The interpreter in the first line of a script ("#!/usr/bin/env python3" names "python3"); empty
 // when the line names none. Thread: any.

@@ -16,10 +16,10 @@
 struct FakeProcess {
     QString name;
     std::uint32_t signature = 0x3F3F3F3F;
-    std::optional<QString> displayName;
-    std::optional<QString> location;
-    QVariantMap informationDictionary;
-    std::chrono::system_clock::time_point start;
+    std::optional<QString> displayName = {};
+    std::optional<QString> location = {};
+    QVariantMap informationDictionary = {};
+    std::chrono::system_clock::time_point start = {};
     double processorTime = 0.0;
     bool isApplication = true;
 };
