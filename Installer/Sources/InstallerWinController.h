@@ -7,6 +7,7 @@
 
 #include "Platform/Bundles.h"
 #include "Platform/Platform.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
 #include "ui_InstallerWindow.h"
 
 #include <QDialog>
@@ -67,6 +68,7 @@ public:
     // Where the installed product should go, and how paths are shown.
     std::optional<QString> findPreferredDestinationFor(const QString &productName) const;
     std::optional<QString> autoLaunchPathFor(const QString &productName) const;
+    std::optional<QString> pathToProcessToReplace() const;
     bool isInUnsupportedFolder(const std::optional<QString> &path) const;
     QString applicationsDirectory() const;
     bool canWriteToFileOrDirectory(const QString &path) const;
@@ -75,6 +77,16 @@ public:
     bool canWriteToDirectory(const QString &folder) const;
     QString localizedPath(const QString &path) const;
     QString recursiveLocalizedPath(const QString &path) const;
+
+    // Quitting what must not run meanwhile. The installer itself is always spared, also when it
+    // bears one of the signatures. Thread: install.
+
+    // Whether one of the four-character codes is the signature.
+    static bool signatureIsInArray(FourCharCode signature, const QStringList &codes);
+    // Asks every running application with one of the quit codes to end, one after the other.
+    void quitProcesses() const;
+    // The name of the first of them that still runs.
+    std::optional<QString> processToQuitStillRunning() const;
 
     // Button actions.
     void install();
@@ -110,6 +122,7 @@ private:
 
     // The installation. Thread: install.
     void installThread(const std::stop_token &stop);
+    std::optional<QString> quitRunningCopies(const std::stop_token &stop) const;
     std::optional<QString> installMyselfInDestination(const std::stop_token &stop);
     QString failureMessage(const QString &messageKey) const;
 

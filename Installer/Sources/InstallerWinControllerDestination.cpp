@@ -7,6 +7,8 @@
 #include "Platform/Workspace.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/PathComponents.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+#include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,7 +39,7 @@ InstallerWinController::findPreferredDestinationFor(const QString &productName) 
     ZTLog("autolaunch = %@", loginItem);
     if (loginItem && !isInUnsupportedFolder(loginItem))
         return loginItem;
-    return std::nullopt;
+    return pathToProcessToReplace();
 }
 
 std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &productName) const {
@@ -49,6 +51,30 @@ std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &
             return path;
     }
     return std::nullopt;
+}
+
+std::optional<QString> InstallerWinController::pathToProcessToReplace() const {
+    const QStringList codes = m_arguments.value(ZTInstallerKeyProductCode).toStringList();
+    if (codes.isEmpty())
+        return std::nullopt;
+    const auto self = ZTProcess::currentProcess();
+    const auto pathOfFirst = [&](auto matches) -> std::optional<QString> {
+        for (const auto &process : ZTProcess::allProcesses()) {
+            if (!matches(process->signature()) || process->isEqual(self.get()))
+                continue;
+            if (auto path = process->path(); !isInUnsupportedFolder(path))
+                return path;
+        }
+        return std::nullopt;
+    };
+    // The main signature goes before all others, whatever the order of the processes.
+    const FourCharCode mainCode = UTGetOSTypeFromString(codes.first());
+    auto path = pathOfFirst([&](FourCharCode signature) { return signature == mainCode; });
+    if (!path && codes.size() >= 2) {
+        path = pathOfFirst(
+            [&](FourCharCode signature) { return signatureIsInArray(signature, codes); });
+    }
+    return path;
 }
 
 bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> &path) const {

@@ -5,6 +5,7 @@
 
 #include "Installer/Sources/LocalizedString.h"
 #include "Installer/train/InstallFunction.h"
+#include "Platform/Clock.h"
 #include "Platform/Log.h"
 #include "Platform/Workspace.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
@@ -14,6 +15,7 @@
 #include <QFile>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 void InstallerWinController::install() {
     if (m_finished) {
@@ -49,9 +51,33 @@ void InstallerWinController::installThread(const std::stop_token &stop) {
     ZTLog("Install");
     onMainThread([this] { animateProgress(Progress::Running); });
     std::optional<QString> message;
-    if (const auto messageKey = installMyselfInDestination(stop))
+    if (const auto name = quitRunningCopies(stop)) {
+        ZTLog("%@ refused to quit; installation cancelled", *name);
+        message = ZTFormat(localizedString("%1$@ cannot be running during the installation.\r"
+                                           "Quit %1$@, then click \"Install\" again."),
+                           *name);
+    } else if (const auto messageKey = installMyselfInDestination(stop)) {
         message = messageKey->isEmpty() ? *messageKey : failureMessage(*messageKey);
+    }
     onMainThread([this, message] { installationFinished(message); });
+}
+
+// Answers the name of an application that would not quit.
+std::optional<QString>
+InstallerWinController::quitRunningCopies(const std::stop_token &stop) const {
+    constexpr int retries = 3;
+    quitProcesses();
+    const auto name = processToQuitStillRunning();
+    if (!name)
+        return std::nullopt;
+    ZTLog("%@ did not quit; will retry", *name);
+    for (int retry = 0; retry < retries && !stop.stop_requested(); ++retry) {
+        m_platform.clock.sleepFor(1s);
+        quitProcesses();
+        if (!processToQuitStillRunning())
+            break;
+    }
+    return processToQuitStillRunning();
 }
 
 std::optional<QString>

@@ -12,6 +12,7 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/AttributedDocument.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+#include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
 #include <QApplication>
@@ -170,6 +171,8 @@ void InstallerWinController::showWindow() {
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
+    if (const auto self = ZTProcess::currentProcess())
+        self->setFrontProcess();
 }
 
 void InstallerWinController::showSystemVersionAlert(const std::optional<QString> &version,

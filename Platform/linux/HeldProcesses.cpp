@@ -4,26 +4,14 @@
 #include "Platform/linux/HeldProcesses.h"
 
 #include "Platform/linux/ProcSerialNumber.h"
-#include "Platform/posix/SystemCalls.h"
 
-#include <poll.h>
 #include <sys/epoll.h>
 #include <sys/resource.h>
-#include <sys/syscall.h> // pidfd_open, which the C library offers to C programs alone
 
 #include <algorithm>
 #include <array>
 
 namespace zt {
-
-namespace {
-
-bool hasEnded(const UniqueFd &process) {
-    pollfd request = {.fd = process.get(), .events = POLLIN, .revents = 0};
-    return retryInterrupted([&] { return ::poll(&request, 1, 0); }) > 0;
-}
-
-} // namespace
 
 HeldProcesses::HeldProcesses(const ProcFs &procFs, std::size_t maximumCount)
     : m_procFs(procFs)
@@ -49,7 +37,7 @@ bool HeldProcesses::hold(ProcessSerialNumber process) {
         if (!m_events || m_holds.size() >= m_maximumCount)
             return false;
     }
-    UniqueFd descriptor(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)));
+    Result<ProcessDescriptor> descriptor = ProcessDescriptor::open(pid);
     if (!descriptor)
         return false;
     // Looked up after the descriptor was opened: it is this process's if the id still is.
@@ -59,9 +47,9 @@ bool HeldProcesses::hold(ProcessSerialNumber process) {
     const std::scoped_lock lock(m_mutex);
     drop(m_holds.find(pid));
     epoll_event event = {.events = EPOLLIN, .data = {.u64 = combined(process)}};
-    if (::epoll_ctl(m_events.get(), EPOLL_CTL_ADD, descriptor.get(), &event) != 0)
+    if (::epoll_ctl(m_events.get(), EPOLL_CTL_ADD, descriptor->get(), &event) != 0)
         return false;
-    m_holds.emplace(pid, Hold{process, std::move(descriptor)});
+    m_holds.emplace(pid, Hold{process, *std::move(descriptor)});
     return true;
 }
 
@@ -85,13 +73,13 @@ HeldProcesses::State HeldProcesses::state(ProcessSerialNumber process) const {
     const auto held = m_holds.find(processIdIn(process));
     if (held == m_holds.end() || held->second.process != process)
         return State::NotHeld;
-    return hasEnded(held->second.descriptor) ? State::Ended : State::Running;
+    return held->second.descriptor.hasEnded() ? State::Ended : State::Running;
 }
 
 std::optional<ProcessSerialNumber> HeldProcesses::runningProcessWithPid(std::int32_t pid) const {
     const std::scoped_lock lock(m_mutex);
     const auto held = m_holds.find(pid);
-    if (held == m_holds.end() || hasEnded(held->second.descriptor))
+    if (held == m_holds.end() || held->second.descriptor.hasEnded())
         return std::nullopt;
     return held->second.process;
 }

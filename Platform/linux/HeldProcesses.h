@@ -7,6 +7,7 @@
 
 #include "Platform/ProcessManager.h"
 #include "Platform/linux/ProcFs.h"
+#include "Platform/linux/ProcessDescriptor.h"
 #include "Platform/posix/UniqueFd.h"
 
 #include <cstddef>
@@ -50,7 +51,7 @@ public:
 private:
     struct Hold {
         ProcessSerialNumber process;
-        UniqueFd descriptor;
+        ProcessDescriptor descriptor;
     };
     using Holds = std::unordered_map<std::int32_t, Hold>;
 

@@ -3,15 +3,20 @@
 
 #include "Platform/NativePlatform.h"
 
+#include "Platform/linux/AtSpiAccessibility.h"
 #include "Platform/linux/AutostartLoginItems.h"
+#include "Platform/linux/BusApplicationEvents.h"
 #include "Platform/linux/DesktopWorkspace.h"
 #include "Platform/linux/EventLoopClock.h"
 #include "Platform/linux/FreedesktopTrash.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/LinuxSystemVersion.h"
 #include "Platform/linux/LinuxUserDefaults.h"
+#include "Platform/linux/PidfdRunningApplications.h"
 #include "Platform/linux/PortalAppearance.h"
+#include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/StandardErrorLog.h"
+#include "Platform/linux/X11WindowSystem.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -45,8 +50,25 @@ struct NativePlatform::Services {
     DesktopWorkspace workspace{{QString(), QDir::homePath()}, bundles};
     PortalAppearance appearance;
     FreedesktopTrash trash{FreedesktopTrash::rootsOfThisUser()};
-    Platform platform{log,        clock,     bundles,    userDefaults, systemVersion,
-                      loginItems, workspace, appearance, trash};
+    X11WindowSystem windowSystem;
+    ProcProcessManager processManager{bundles, windowSystem};
+    PidfdRunningApplications runningApplications{clock, windowSystem};
+    BusApplicationEvents applicationEvents;
+    AtSpiAccessibility accessibility;
+    Platform platform{.log = log,
+                      .clock = clock,
+                      .bundles = bundles,
+                      .userDefaults = userDefaults,
+                      .systemVersion = systemVersion,
+                      .loginItems = loginItems,
+                      .workspace = workspace,
+                      .appearance = appearance,
+                      .trash = trash,
+                      .windowSystem = windowSystem,
+                      .processManager = processManager,
+                      .runningApplications = runningApplications,
+                      .applicationEvents = applicationEvents,
+                      .accessibility = accessibility};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

@@ -5,13 +5,12 @@
 
 #include "Platform/MacRoman.h"
 #include "Platform/linux/ProcSerialNumber.h"
-#include "Platform/posix/UniqueFd.h"
+#include "Platform/linux/ProcessDescriptor.h"
 
 #include <QCoreApplication>
 #include <QThread>
 
-#include <signal.h>      // SIGCONT
-#include <sys/syscall.h> // pidfd_open, which the C library offers to C programs alone
+#include <signal.h> // SIGCONT
 #include <time.h>
 #include <unistd.h>
 
@@ -190,14 +189,13 @@ std::optional<double> ProcProcessManager::userProcessorTime(std::int32_t pid) co
 
 void ProcProcessManager::wakeUp(ProcessSerialNumber process) {
     const std::int32_t pid = processIdIn(process);
-    if (pid <= 0)
-        return;
     // Opened before the process is looked at, so that the signal can reach no other.
-    const UniqueFd descriptor(static_cast<int>(::syscall(SYS_pidfd_open, pid, 0)));
+    const Result<ProcessDescriptor> descriptor = ProcessDescriptor::open(pid);
     const std::optional<ProcStat> stat = m_procFs.stat(pid);
     if (!descriptor || !stat || serialNumberOf(*stat) != process || stat->state != 'T')
         return;
-    ::syscall(SYS_pidfd_send_signal, descriptor.get(), SIGCONT, nullptr, 0);
+    // It may have ended by now, which is as good.
+    static_cast<void>(descriptor->sendSignal(SIGCONT));
 }
 
 void ProcProcessManager::setEventListener(std::function<void(Event)> listener) {

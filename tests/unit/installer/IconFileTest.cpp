@@ -48,13 +48,15 @@ protected:
     QTemporaryDir folder;
 };
 
-TEST_F(IconFileTest, everySizeInAContainerIsUsed) {
-    const QString path =
-        write(u"a.icns"_s, icns({{"ic07", png(128, Qt::red)}, {"ic08", png(256, Qt::blue)}}));
+TEST_F(IconFileTest, aContainersSizesAreUsedUpToALargeEnoughOne) {
+    const QString path = write(u"a.icns"_s, icns({{"icp5", png(32, Qt::green)},
+                                                  {"ic07", png(128, Qt::red)},
+                                                  {"ic08", png(256, Qt::blue)}}));
     const auto icon = loadIcon(path);
     ASSERT_TRUE(icon);
+    EXPECT_EQ(middleOf(*icon, 32), QColor(Qt::green));
     EXPECT_EQ(middleOf(*icon, 128), QColor(Qt::red));
-    EXPECT_EQ(middleOf(*icon, 256), QColor(Qt::blue));
+    EXPECT_EQ(icon->availableSizes().size(), 2);
 }
 
 TEST_F(IconFileTest, entriesThatCannotBeReadAreSkipped) {
