@@ -104,4 +104,8 @@ QList<BusConnection> busConnectionsOfProcess(const QDBusConnection &bus, std::in
     return connections;
 }
 
+bool isBusConnection(const QDBusConnection &bus, const BusConnection &connection) {
+    return take<bool>(askBus(bus, u"NameHasOwner"_s, {connection.uniqueName}, QDeadlineTimer(500)));
+}
+
 } // namespace zt

@@ -34,4 +34,7 @@ struct BusConnection {
 QList<BusConnection> busConnectionsOfProcess(const QDBusConnection &bus, std::int32_t pid,
                                              const QDeadlineTimer &deadline);
 
+// Whether the connection is still there, as far as the bus tells quickly. Thread: any.
+bool isBusConnection(const QDBusConnection &bus, const BusConnection &connection);
+
 } // namespace zt

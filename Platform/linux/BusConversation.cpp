@@ -26,8 +26,6 @@ const QString toolkitInterface = u"org.qtproject.Qt.QCoreApplication"_s;
 const QString toolkitPath = u"/MainApplication"_s;
 const QString quitAction = u"quit"_s;
 
-constexpr qint64 timerError = 20; // milliseconds by which a time limit may seem to come early
-
 // The messages, each in one place.
 
 QDBusMessage toTarget(const BusConnection &target, const QString &path, const QString &interface,
@@ -153,8 +151,8 @@ BusConversation::Answer BusConversation::call(QDBusMessage message) const {
     const QDBusError::ErrorType error = QDBusError(reply).type();
     // The same error tells that nobody answered in time and that somebody left without answering.
     if (isAmong(error, {QDBusError::NoReply, QDBusError::Timeout, QDBusError::TimedOut}))
-        return {.outcome = m_deadline.remainingTime() <= timerError ? BusOutcome::TimedOut
-                                                                    : BusOutcome::Disconnected,
+        return {.outcome = isBusConnection(m_bus, m_target) ? BusOutcome::TimedOut
+                                                            : BusOutcome::Disconnected,
                 .value = {}};
     if (isAmong(error, {QDBusError::ServiceUnknown, QDBusError::Disconnected}))
         return {.outcome = BusOutcome::Disconnected, .value = {}};

@@ -5,7 +5,6 @@
 
 // Waiting for what other programs do.
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QThread>
@@ -18,10 +17,13 @@ template <std::predicate Condition>
 bool comesToHold(Condition condition) {
     constexpr int hopeless = 30'000; // milliseconds
     const QDeadlineTimer deadline(hopeless);
+    QEventLoop loop;
     while (!condition()) {
         if (deadline.hasExpired())
             return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        // Until there is nothing to do: some of it waits until everything else is done.
+        while (loop.processEvents(QEventLoop::AllEvents) && !deadline.hasExpired()) {
+        }
         QThread::msleep(2);
     }
     return true;

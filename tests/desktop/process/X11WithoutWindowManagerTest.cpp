@@ -9,6 +9,8 @@
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
 
+#include <QCoreApplication>
+
 #include <gtest/gtest.h>
 
 #include <signal.h> // kill
