@@ -262,6 +262,58 @@ TEST_F(InstallerWindowTest, afterAFailureASecondTryCanSucceed) {
     EXPECT_TRUE(QFileInfo::exists(destination()));
 }
 
+// Starts a program; it ends with the test at the latest.
+std::unique_ptr<QProcess> started(const QString &program) {
+    auto process = std::make_unique<QProcess>();
+    process->start(program, QStringList());
+    EXPECT_TRUE(process->waitForStarted());
+    return process;
+}
+
+TEST_F(InstallerWindowTest, runningCopiesOfTheProductAreQuitFirst) {
+    ASSERT_EQ(QProcess::execute(u"cp"_s, {u"-a"_s, sample(), destination()}), 0);
+    const QString program = destination() + u"/Contents/Linux/SampleNotes"_s;
+    const auto first = started(program);
+    const auto second = started(program);
+    startSample();
+    click(button("installButton"));
+    ASSERT_TRUE(eventually([this] { return button("installButton")->text() == u"OK"_s; }));
+    EXPECT_TRUE(eventually([&] {
+        return first->state() == QProcess::NotRunning && second->state() == QProcess::NotRunning;
+    }));
+    EXPECT_TRUE(QFileInfo::exists(program));
+}
+
+TEST_F(InstallerWindowTest, aProductThatComesBackEachTimeStopsTheInstallationUntilItStaysAway) {
+    const QString product = path(u"Disk/Clingy.app"_s);
+    const QString program = product + u"/Contents/Linux/Clingy"_s;
+    write(product + u"/Contents/Info.plist"_s,
+          "<plist version=\"1.0\"><dict><key>CFBundleExecutable</key><string>Clingy</string>"
+          "<key>CFBundleName</key><string>Clingy</string>"
+          "<key>CFBundleSignature</key><string>Clng</string></dict></plist>");
+    write(program, "#!/bin/sh\nwhile :; do sleep 0.05; done\n");
+    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    auto clingy = started(program);
+    int comebacks = 0;
+    QObject::connect(clingy.get(), &QProcess::finished, clingy.get(),
+                     [&clingy, &comebacks, program] {
+                         ++comebacks;
+                         clingy->start(program, QStringList());
+                     });
+    start({u"-sourcePath"_s, product, u"-destinationPath"_s, path(u"Applications/Clingy.app"_s)});
+    click(button("installButton"));
+    ASSERT_TRUE(eventually([this] { return field<QLabel>("messageField")->isVisible(); }));
+    EXPECT_EQ(text("messageField"), u"Clingy cannot be running during the installation.\rQuit "
+                                    "Clingy, then click \"Install\" again."_s);
+    EXPECT_EQ(comebacks, 4);
+    EXPECT_FALSE(QFileInfo::exists(path(u"Applications/Clingy.app"_s)));
+
+    QObject::disconnect(clingy.get(), &QProcess::finished, nullptr, nullptr);
+    click(button("installButton"));
+    ASSERT_TRUE(eventually([this] { return button("installButton")->text() == u"OK"_s; }));
+    EXPECT_TRUE(QFileInfo::exists(path(u"Applications/Clingy.app"_s)));
+}
+
 TEST_F(InstallerWindowTest, aTimedQuitEndsTheInstaller) {
     startSample({u"-completionQuit"_s, u"0.2"_s});
     click(button("installButton"));
