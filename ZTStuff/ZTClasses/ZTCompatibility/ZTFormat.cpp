@@ -149,9 +149,10 @@ private:
         if (index >= m_arguments.size())
             return missingText;
         const auto &value = m_arguments.at(index).m_value;
-        if (const auto *text = std::get_if<QString>(&value))
+        if (const auto *text = std::get_if<QString>(&value)) {
             return padded(placeholder.precision >= 0 ? text->left(placeholder.precision) : *text,
                           placeholder);
+        }
         if (const auto *number = std::get_if<qint64>(&value))
             return signedText(*number, placeholder);
         if (const auto *number = std::get_if<quint64>(&value))
@@ -236,10 +237,11 @@ private:
 
     static QString realText(double number, const Placeholder &placeholder) {
         char letter = 'f';
-        if (QStringView(u"eEgGfF").contains(placeholder.conversion))
+        if (QStringView(u"eEgGfF").contains(placeholder.conversion)) {
             letter = static_cast<char>(placeholder.conversion);
-        else if (QStringView(u"@s").contains(placeholder.conversion))
+        } else if (QStringView(u"@s").contains(placeholder.conversion)) {
             letter = 'g';
+        }
         const int precision = placeholder.precision >= 0 ? placeholder.precision : 6;
         QString digits = QString::number(number, letter, precision);
         const bool negative = digits.startsWith(u'-');
