@@ -212,4 +212,49 @@ TEST_F(AttributedDocumentTest, markupThatIsTooComplexIsShownAsItStands) {
     EXPECT_TRUE(load(u"b.html"_s, large)->toPlainText().startsWith("<p>xxx"_L1));
 }
 
+// Lays the document out; a test that hangs here has failed.
+qreal layoutHeight(QTextDocument &document) {
+    document.setTextWidth(540);
+    return document.size().height();
+}
+
+TEST_F(AttributedDocumentTest, absurdLengthsAreShownAsPlainText) {
+    for (const char *element :
+         {"<p style='margin:99999999px'>text</p>", "<p style='margin:-99999999px'>text</p>",
+          "<p style='font-size:1e300pt'>text</p>", "<p style='line-height:9999999999px'>text</p>",
+          "<table cellpadding=100000 height=99999999><tr><td>text</table>",
+          "<table><tr><td style='border:1e9px solid'>text</table>"}) {
+        const auto document = load(u"a.html"_s, QByteArray(element).repeated(100));
+        EXPECT_LT(layoutHeight(*document), 100'000) << element;
+        EXPECT_EQ(document->toPlainText().count(u"text"_s), 100) << element;
+    }
+}
+
+TEST_F(AttributedDocumentTest, whatAddsUpToAnAbsurdHeightIsShownAsPlainText) {
+    const QByteArray tall =
+        R"({\rtf1\sb31680\sa31680\fs400 )" + QByteArray("x\\par ").repeated(9000);
+    EXPECT_LT(layoutHeight(*load(u"a.rtf"_s, tall)), 1'000'000);
+    QByteArray narrow = R"({\rtf1\trowd)";
+    for (int edge = 1; edge < 60; ++edge)
+        narrow += "\\cellx" + QByteArray::number(edge);
+    narrow += "\\intbl " + QByteArray("a ").repeated(400'000) + "\\cell\\row}";
+    EXPECT_LT(layoutHeight(*load(u"b.rtf"_s, narrow)), 1'000'000);
+}
+
+TEST_F(AttributedDocumentTest, tablesWithinTablesAreBounded) {
+    const auto few = load(u"a.html"_s, QByteArray("<table><tr><td>").repeated(4) + "text");
+    EXPECT_NE(few->find(u"text"_s).currentTable(), nullptr);
+    // Twenty of them would take half a minute to lay out, and each further one twice as long.
+    const auto many =
+        load(u"b.html"_s, QByteArray("<table><tr><td><caption>").repeated(40) + "text");
+    EXPECT_GT(layoutHeight(*many), 0);
+    EXPECT_EQ(many->find(u"text"_s).currentTable(), nullptr);
+}
+
+TEST_F(AttributedDocumentTest, longParagraphsOfManySpansAreReadInTime) {
+    const auto document = load(u"a.md"_s, QByteArray("[a](http://b) `c` ").repeated(10'000));
+    EXPECT_EQ(linksOf(*document).size(), 10'000);
+    load(u"a.rtf"_s, R"({\rtf1 )" + QByteArray(R"({\b a} )").repeated(50'000));
+}
+
 } // namespace

@@ -155,6 +155,7 @@ TEST(MarkupChecksTest, endlessNestingIsTooComplex) {
     EXPECT_TRUE(isTooComplexHtml(u"<div>"_s.repeated(1000)));
     EXPECT_TRUE(isTooComplexHtml(u"<TABLE><tr><td>"_s.repeated(1000)));
     EXPECT_TRUE(isTooComplexHtml(u"<li>"_s.repeated(10'000)));
+    EXPECT_TRUE(isTooComplexHtml(u"<img src=a>"_s.repeated(10'000)));
 }
 
 TEST(MarkupChecksTest, onlyVeryLongListsAndTablesOfMarkdownAreTooComplex) {

@@ -302,6 +302,15 @@ TEST(RtfTableTest, cellsThatWereNotAnnouncedWidenTheTable) {
     EXPECT_EQ(table->columns(), 3);
 }
 
+TEST(RtfTableTest, aRowOfTooManyCellsIsContinuedByTheNext) {
+    const Document document = read(R"(\trowd\intbl )" + QByteArray(R"(x\cell )").repeated(100) +
+                                   R"(\row\trowd\intbl last\cell\row)");
+    const QTextTable *table = document->find(u"last"_s).currentTable();
+    ASSERT_NE(table, nullptr);
+    EXPECT_LT(table->columns(), 100);
+    EXPECT_EQ(table->rows(), 3);
+}
+
 TEST(RtfTableTest, cellsOutsideOfATableAreDividedByTabs) {
     EXPECT_EQ(textOf(*read(R"(a\cell b\cell\row c)")), "a\tb\t\nc");
 }

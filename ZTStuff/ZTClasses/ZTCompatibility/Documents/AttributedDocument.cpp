@@ -5,6 +5,7 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/DocumentFile.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/DocumentFinish.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/Documents/DocumentLayoutCheck.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/DocumentLimits.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/MarkupChecks.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/PlainTextDecoder.h"
@@ -84,10 +85,32 @@ void fillWithMarkdown(SelfContainedDocument &document, const QByteArray &content
         fillWithPlainText(document, markdown);
         return;
     }
+    // Within an edit block nothing is laid out before the whole text is there.
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
     // HTML within Markdown is shown as it stands: the reader of Qt loses text after some elements.
     document.setMarkdown(markdown,
                          QTextDocument::MarkdownFeatures(QTextDocument::MarkdownDialectGitHub) |
                              QTextDocument::MarkdownNoHTML);
+    cursor.endEditBlock();
+}
+
+void fill(SelfContainedDocument &document, const QByteArray &content, const QString &suffix) {
+    switch (kindOf(content, suffix)) {
+    case Kind::RichText:
+        RtfInterpreter({content.constData(), static_cast<std::size_t>(content.size())}, document)
+            .run();
+        break;
+    case Kind::Html:
+        fillWithHtml(document, content);
+        break;
+    case Kind::Markdown:
+        fillWithMarkdown(document, content);
+        break;
+    case Kind::PlainText:
+        fillWithPlainText(document, decodePlainText(content));
+        break;
+    }
 }
 
 } // namespace
@@ -100,22 +123,20 @@ zt::Result<std::unique_ptr<QTextDocument>> AttributedDocument::load(const QStrin
     if (!content)
         return content.error();
 
-    auto document = std::make_unique<SelfContainedDocument>(file.absolutePath());
-    switch (kindOf(*content, file.suffix())) {
-    case Kind::RichText:
-        RtfInterpreter({content->constData(), static_cast<std::size_t>(content->size())}, *document)
-            .run();
-        break;
-    case Kind::Html:
-        fillWithHtml(*document, *content);
-        break;
-    case Kind::Markdown:
-        fillWithMarkdown(*document, *content);
-        break;
-    case Kind::PlainText:
-        fillWithPlainText(*document, decodePlainText(*content));
-        break;
-    }
+    return fromContent(*content, file.fileName(), file.absolutePath());
+}
+
+std::unique_ptr<QTextDocument> AttributedDocument::fromContent(const QByteArray &content,
+                                                               const QString &fileName,
+                                                               const QString &folder) {
+    auto document = std::make_unique<SelfContainedDocument>(folder);
+    fill(*document, content, QFileInfo(fileName).suffix());
     finishDocument(*document);
-    return std::unique_ptr<QTextDocument>(std::move(document));
+    if (!canBeLaidOut(*document)) {
+        auto plain = std::make_unique<SelfContainedDocument>(QString());
+        fillWithPlainText(*plain, document->toPlainText());
+        finishDocument(*plain);
+        document = std::move(plain);
+    }
+    return document;
 }

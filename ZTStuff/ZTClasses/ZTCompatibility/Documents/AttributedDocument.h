@@ -7,6 +7,7 @@
 
 #include "Platform/Result.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QTextDocument>
 
@@ -17,10 +18,16 @@
 //
 // The document is self-contained: nothing is fetched or run, pictures come from the document itself
 // or from its folder, links lead to the web or to a mail. It is made for white paper; text without
-// a colour of its own is black. A document that is too long ends with an ellipsis.
+// a colour of its own is black. A document that is too long ends with an ellipsis; one that
+// cannot be laid out for its size or nesting is shown as plain text.
 class AttributedDocument {
 public:
     // Fails when there is no such file, when it cannot be read, and when it is larger than
     // maximumDocumentSize; never because of its content. Thread: main.
     static zt::Result<std::unique_ptr<QTextDocument>> load(const QString &path);
+
+    // The same from the file's content. Pictures come from the folder; from none when it is empty.
+    // Thread: main.
+    static std::unique_ptr<QTextDocument>
+    fromContent(const QByteArray &content, const QString &fileName, const QString &folder);
 };

@@ -17,7 +17,7 @@ inline constexpr qint64 maximumMarkupSize = 1'048'576;
 // How much text is shown, in UTF-16 units and in paragraphs. What follows is left out, and an
 // ellipsis says so.
 inline constexpr qsizetype maximumShownCharacters = 1'000'000;
-inline constexpr int maximumShownParagraphs = 50'000;
+inline constexpr int maximumShownParagraphs = 20'000;
 
 // The longest paragraph, in UTF-16 units; a longer one is broken, because the time to break a
 // paragraph into lines grows faster than its length.

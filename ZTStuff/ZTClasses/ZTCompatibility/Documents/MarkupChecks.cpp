@@ -14,6 +14,7 @@ namespace {
 // Measured: each open element costs the reader time with every further one.
 constexpr int deepestNesting = 200;
 constexpr int mostOpenItems = 2000;
+constexpr int mostPictures = 2000;
 constexpr qsizetype mostStructureMarks = 3000;
 
 bool isVoidElement(QStringView name) {
@@ -59,11 +60,14 @@ QStringView tagName(QStringView html, qsizetype position) {
 bool isTooComplexHtml(QStringView html) {
     int depth = 0;
     int openItems = 0;
+    int pictures = 0;
     for (qsizetype position = html.indexOf(u'<'); position >= 0;
          position = html.indexOf(u'<', position)) {
         ++position;
         const bool isEnd = position < html.size() && html[position] == u'/';
         const QStringView name = tagName(html, position + (isEnd ? 1 : 0));
+        if (name.compare(u"img", Qt::CaseInsensitive) == 0 && ++pictures > mostPictures)
+            return true;
         if (name.isEmpty() || isVoidElement(name) || isClosedByTheNext(name))
             continue;
         int &count = isItemElement(name) ? openItems : depth;

@@ -147,17 +147,24 @@ RtfDocumentWriter::RtfDocumentWriter(SelfContainedDocument &document, const RtfT
     QTextOption option = document.defaultTextOption();
     option.setTabStopDistance(tabStopDistance);
     document.setDefaultTextOption(option);
+    // Outside of an edit block, every insertion would lay its whole paragraph out.
+    m_cursor.beginEditBlock();
 }
 
 void RtfDocumentWriter::insertText(const QString &text, const RtfState &state) {
     if (text.isEmpty() || !prepareInsertion(state.paragraph))
         return;
-    m_charactersLeft -= text.size();
-    if (m_charactersLeft < 0) {
-        stopWriting();
+    const QTextCharFormat &format = characterFormat(state.character);
+    if (text.size() <= m_charactersLeft) {
+        m_charactersLeft -= text.size();
+        m_cursor.insertText(text, format);
         return;
     }
-    m_cursor.insertText(text, characterFormat(state.character));
+    qsizetype length = m_charactersLeft;
+    if (length > 0 && text[length - 1].isHighSurrogate())
+        --length;
+    m_cursor.insertText(text.left(length), format);
+    stopWriting();
 }
 
 void RtfDocumentWriter::insertPicture(const QString &name, int width, int height,
@@ -183,6 +190,7 @@ void RtfDocumentWriter::endParagraph(const RtfParagraphState &paragraph) {
 void RtfDocumentWriter::finish(const RtfParagraphState &paragraph) {
     if (!m_paragraphHasEnded && !m_table)
         m_cursor.setBlockFormat(makeFormat(paragraph));
+    m_cursor.endEditBlock();
 }
 
 void RtfDocumentWriter::startRow() {
@@ -208,7 +216,9 @@ void RtfDocumentWriter::endCell(const RtfState &state) {
         return;
     m_cursor.setBlockFormat(makeFormat(state.paragraph));
     m_cellIsOpen = false;
-    ++m_column;
+    // A row that is too wide is continued by the next one.
+    if (++m_column >= maximumColumns)
+        m_rowIsOpen = false;
 }
 
 void RtfDocumentWriter::endRow(const RtfParagraphState &paragraph) {
@@ -262,12 +272,11 @@ void RtfDocumentWriter::openCell() {
     m_cellIsOpen = true;
     m_paragraphHasEnded = false;
     // A row can have more cells than were announced.
-    if (m_column >= m_table->columns() && m_column < maximumColumns) {
+    if (m_column >= m_table->columns()) {
         m_table->appendColumns(1);
         m_paragraphsLeft -= m_table->rows();
     }
-    const int column = std::min(m_column, m_table->columns() - 1);
-    m_cursor = m_table->cellAt(m_row, column).lastCursorPosition();
+    m_cursor = m_table->cellAt(m_row, m_column).lastCursorPosition();
 }
 
 void RtfDocumentWriter::openTable() {

@@ -28,7 +28,7 @@ public:
     void insertPicture(const QString &name, int width, int height, const RtfState &state);
     // The paragraph gets the properties that hold at its end.
     void endParagraph(const RtfParagraphState &paragraph);
-    // Gives the last paragraph its properties, when no other ended it.
+    // Gives the last paragraph its properties, when no other ended it. To be called once, at last.
     void finish(const RtfParagraphState &paragraph);
 
     // A row's cells are announced before its text, each by its right edge.
