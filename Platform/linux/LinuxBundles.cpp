@@ -3,8 +3,6 @@
 
 #include "Platform/linux/LinuxBundles.h"
 
-#include "Platform/PropertyList.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -95,7 +93,7 @@ std::optional<Bundle> LinuxBundles::bundleAtPath(const QString &path) const {
         const QString dictionaryPath = bundlePath + rule.dictionary;
         if (!QFileInfo::exists(dictionaryPath))
             continue;
-        const Result<QVariant> dictionary = readPropertyList(dictionaryPath);
+        const Result<QVariant> dictionary = m_dictionaries.read(dictionaryPath);
         if (!dictionary || dictionary->metaType() != QMetaType::fromType<QVariantMap>())
             return std::nullopt;
         const QVariantMap information = dictionary->toMap();

@@ -6,6 +6,7 @@
 // Bundles in the layouts that are found on Linux.
 
 #include "Platform/Bundles.h"
+#include "Platform/linux/RememberedPropertyLists.h"
 
 namespace zt {
 
@@ -27,6 +28,7 @@ public:
     std::optional<Bundle> bundleEnclosing(const QString &path) const override;
 
 private:
+    mutable RememberedPropertyLists m_dictionaries; // guards itself
     Bundle m_mainBundle;
 };
 
