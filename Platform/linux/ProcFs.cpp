@@ -51,18 +51,32 @@ std::string_view readInto(std::span<char> buffer, int root, const char *path) {
 ProcFs::ProcFs(const std::string &root)
     : m_root(openAt(AT_FDCWD, root.c_str(), O_PATH | O_DIRECTORY)) {}
 
-std::vector<std::int32_t> ProcFs::processIds() const {
-    std::vector<std::int32_t> ids;
+std::vector<ProcFolderEntry> ProcFs::processes() const {
+    std::vector<ProcFolderEntry> entries;
     const UniqueFd folder = openAt(m_root.get(), ".", O_RDONLY | O_DIRECTORY);
     if (!folder)
-        return ids;
+        return entries;
     alignas(std::uint64_t) std::array<std::byte, 32 * 1024> buffer;
     DirectoryReader reader(folder.get(), buffer);
     while (const DirectoryReader::Entry *entry = reader.next()) {
         if (const auto id = parseProcessId(entry->name))
-            ids.push_back(*id);
+            entries.push_back({.pid = *id, .number = entry->number});
     }
-    return ids;
+    return entries;
+}
+
+std::optional<struct stat> ProcFs::folderStatus(std::int32_t pid) const {
+    struct stat status = {};
+    if (::fstatat(m_root.get(), ProcessPath(pid, {}).text(), &status, 0) != 0)
+        return std::nullopt;
+    return status;
+}
+
+std::optional<ProcFolderEntry> ProcFs::entryOf(std::int32_t pid) const {
+    const std::optional<struct stat> status = folderStatus(pid);
+    if (!status)
+        return std::nullopt;
+    return ProcFolderEntry{.pid = pid, .number = status->st_ino};
 }
 
 std::optional<std::int32_t> ProcFs::ownProcessId() const {
@@ -120,12 +134,12 @@ std::vector<std::string> ProcFs::commandLine(std::int32_t pid) const {
 }
 
 std::optional<uid_t> ProcFs::effectiveUser(std::int32_t pid) const {
-    // The folder belongs to that user, or to root when the process is protected from it.
-    struct stat status = {};
-    if (::fstatat(m_root.get(), ProcessPath(pid, {}).text(), &status, 0) != 0)
+    // The folder belongs to that user, or to root when the process is protected from the user.
+    const std::optional<struct stat> folder = folderStatus(pid);
+    if (!folder)
         return std::nullopt;
-    if (status.st_uid != 0)
-        return status.st_uid;
+    if (folder->st_uid != 0)
+        return folder->st_uid;
     std::array<char, 4096> buffer;
     return parseEffectiveUser(readInto(buffer, m_root.get(), ProcessPath(pid, "status").text()));
 }

@@ -18,20 +18,31 @@
 
 namespace zt {
 
+// The folder of a process. The kernel gives each process's a number of its own, so two folders with
+// the same id and number are those of the same process. It may number the folder of a process anew.
+struct ProcFolderEntry {
+    std::int32_t pid = 0;
+    std::uint64_t number = 0;
+
+    bool operator==(const ProcFolderEntry &) const = default;
+};
+
 // Reads below one folder, laid out as /proc. What cannot be read has no value: the process has
 // ended, belongs to another user, or is a thread of the kernel. Thread: any.
 class ProcFs {
 public:
     explicit ProcFs(const std::string &root = "/proc");
 
-    // The ids of all processes. Empty when the folder cannot be read.
-    std::vector<std::int32_t> processIds() const;
+    // The folders of all processes. Empty when they cannot be listed.
+    std::vector<ProcFolderEntry> processes() const;
 
     // The id of this very process, as this process file system counts.
     std::optional<std::int32_t> ownProcessId() const;
 
     // The id that was given to a process or thread last.
     std::optional<std::int32_t> lastProcessId() const;
+
+    std::optional<ProcFolderEntry> entryOf(std::int32_t pid) const;
 
     std::optional<ProcStat> stat(std::int32_t pid) const;
 
@@ -47,10 +58,11 @@ public:
     // The arguments; none when they cannot be read, and for a thread of the kernel.
     std::vector<std::string> commandLine(std::int32_t pid) const;
 
-    // The user whose rights the process has.
+    // The user whose rights the process has, also when it is protected from that user.
     std::optional<uid_t> effectiveUser(std::int32_t pid) const;
 
 private:
+    std::optional<struct stat> folderStatus(std::int32_t pid) const;
     std::optional<std::string> link(std::int32_t pid, const char *name) const;
 
     UniqueFd m_root;

@@ -60,31 +60,30 @@ ProcProcessManager::ProcProcessManager(const Bundles &bundles, WindowSystem &win
 
 ProcProcessManager::~ProcProcessManager() = default;
 
-bool ProcProcessManager::isOfThisUser(const ProcStat &stat) const {
-    return m_programs.userOf(stat) == ::geteuid();
-}
-
 QList<ProcessSerialNumber> ProcProcessManager::runningApplications() const {
     const QList<std::int32_t> owners = m_windowSystem.processesWithWindows();
     const std::unordered_set<std::int32_t> windowOwners(owners.begin(), owners.end());
     ProcPrograms::Memory memory;
     std::vector<std::tuple<std::uint64_t, std::int32_t, ProcessSerialNumber>> found;
-    for (const std::int32_t pid : m_procFs.processIds()) {
+    const uid_t user = ::geteuid();
+    for (const ProcFolderEntry &folder : m_procFs.processes()) {
+        const std::int32_t pid = folder.pid;
         const bool ownsWindow = windowOwners.contains(pid);
         const std::optional<std::string> link = m_procFs.programLink(pid);
         // Threads of the kernel have no program, and those of other users do not show it.
         if (!link && !ownsWindow)
             continue;
-        const auto process = m_programs.observe(pid, link, &memory);
+        const auto process = m_programs.observe(folder, link, &memory);
         if (!process)
             continue;
         if (!process->program->isInBundle && !ownsWindow && !process->isKnownApplication)
             continue;
-        if (!isOfThisUser(process->stat))
+        // Another user's process may have put off that user's rights since it was looked at.
+        if (process->user != user && m_procFs.effectiveUser(pid) != user)
             continue;
         if (!process->isKnownApplication)
-            m_programs.noteApplication(process->stat);
-        found.emplace_back(process->stat.startTicks, pid, serialNumberOf(process->stat));
+            m_programs.noteApplication(*process);
+        found.emplace_back(process->startTicks, pid, serialNumberOf(pid, process->startTicks));
     }
     std::ranges::sort(found, {}, [](const auto &entry) {
         return std::pair(std::get<0>(entry), std::get<1>(entry));
@@ -126,8 +125,8 @@ ProcPrograms::Pointer ProcProcessManager::programOf(ProcessSerialNumber process)
     const std::int32_t pid = processIdIn(process);
     if (pid <= 0)
         return nullptr;
-    const auto observed = m_programs.observe(pid, m_procFs.programLink(pid));
-    if (!observed || serialNumberOf(observed->stat) != process)
+    const auto observed = m_programs.observe(pid);
+    if (!observed || serialNumberOf(pid, observed->startTicks) != process)
         return nullptr;
     return observed->program;
 }

@@ -45,7 +45,6 @@ public:
 
 private:
     ProcPrograms::Pointer programOf(ProcessSerialNumber process) const;
-    bool isOfThisUser(const ProcStat &stat) const;
 
     ProcFs m_procFs;
     WindowSystem &m_windowSystem;

@@ -71,8 +71,13 @@ QString nameWithoutLink(const ProcFs &procFs, const ProcStat &stat) {
     return name.empty() ? QString::number(stat.pid) : QString::fromStdString(name);
 }
 
-bool isSameRun(const ProcStat &a, const ProcStat &b) {
-    return a.startTicks == b.startTicks && a.image == b.image;
+template <typename Known>
+ProcPrograms::Observation observationOf(std::int32_t pid, const Known &known) {
+    return {.pid = pid,
+            .startTicks = known.startTicks,
+            .program = known.program,
+            .user = known.user,
+            .isKnownApplication = known.isApplication};
 }
 
 // Whether the bundle is the one in which the program file lies, and not that of a script.
@@ -102,107 +107,120 @@ ProgramPath programPathOf(const ProcFs &procFs, std::int32_t pid, const std::str
 } // namespace
 
 std::optional<ProcPrograms::Observation>
-ProcPrograms::observe(std::int32_t pid, const std::optional<std::string> &link, Memory *memory) {
-    std::optional<ProcStat> stat = m_procFs.stat(pid);
+ProcPrograms::observe(const ProcFolderEntry &folder, const std::optional<std::string> &link,
+                      Memory *memory) {
+    if (link) { // a process without a program may have ended
+        const std::scoped_lock lock(m_mutex);
+        const auto found = m_known.find(folder.pid);
+        if (found != m_known.end() && found->second.isSettled && found->second.link == link &&
+            found->second.folder == folder)
+            return observationOf(folder.pid, found->second);
+    }
+    return lookClosely(folder, link, memory);
+}
+
+std::optional<ProcPrograms::Observation> ProcPrograms::observe(std::int32_t pid) {
+    const std::optional<ProcFolderEntry> folder = m_procFs.entryOf(pid);
+    return folder ? observe(*folder, m_procFs.programLink(pid)) : std::nullopt;
+}
+
+std::optional<ProcPrograms::Observation>
+ProcPrograms::lookClosely(ProcFolderEntry folder, std::optional<std::string> link, Memory *memory) {
+    const std::int32_t pid = folder.pid;
     // The process may load another program, or end, between two looks at it; then what was read
     // does not belong together, and is read again.
     constexpr int maximumAttempts = 5;
     for (int attempt = 0; attempt < maximumAttempts; ++attempt) {
+        const std::optional<ProcStat> stat = m_procFs.stat(pid);
         if (!stat || !stat->isRunning())
             return std::nullopt;
-        const std::optional<Known> known = knownOf(*stat);
-        if (attempt == 0 && known && known->link == link &&
-            (known->image == stat->image || isFoundByPath(*known->program, link)))
-            return Observation{std::move(*stat), known->program, known->isApplication};
+        std::optional<Known> before = knownOf(pid);
+        if (before && before->startTicks != stat->startTicks)
+            before.reset();
 
-        Known fresh = lookClosely(*stat, known, memory);
-        std::optional<ProcStat> now = m_procFs.stat(pid);
-        if (now && now->isRunning() && isSameRun(*now, *stat)) {
-            Observation observation{std::move(*now), fresh.program, fresh.isApplication};
+        Known fresh;
+        fresh.folder = folder;
+        fresh.startTicks = stat->startTicks;
+        fresh.image = stat->image;
+        fresh.link = link;
+        if (const std::optional<struct stat> status = m_procFs.programStatus(pid))
+            fresh.file = FileIdentity{status->st_dev, status->st_ino};
+        fresh.isApplication = before && before->isApplication;
+        Identification found = identifyAgain(*stat, fresh, before ? &*before : nullptr, memory);
+        fresh.program = std::move(found.program);
+        fresh.isSettled = found.isSettled;
+        fresh.user = m_procFs.effectiveUser(pid);
+
+        std::optional<std::string> linkNow = m_procFs.programLink(pid);
+        const std::optional<ProcFolderEntry> folderNow = m_procFs.entryOf(pid);
+        if (folderNow == folder && linkNow == link) {
+            const Observation observation = observationOf(pid, fresh);
             remember(pid, std::move(fresh));
             return observation;
         }
-        stat = std::move(now);
+        if (!folderNow)
+            return std::nullopt;
+        folder = *folderNow;
+        link = std::move(linkNow);
     }
     return std::nullopt;
 }
 
-ProcPrograms::Known ProcPrograms::lookClosely(const ProcStat &stat,
-                                              const std::optional<Known> &known,
-                                              Memory *memory) const {
-    Known fresh;
-    fresh.startTicks = stat.startTicks;
-    fresh.image = stat.image;
-    fresh.link = m_procFs.programLink(stat.pid);
-    if (const std::optional<struct stat> status = m_procFs.programStatus(stat.pid))
-        fresh.file = FileIdentity{status->st_dev, status->st_ino};
-    if (known) {
-        fresh.isApplication = known->isApplication;
-        if (known->image == fresh.image)
-            fresh.user = known->user;
+ProcPrograms::Identification ProcPrograms::identifyAgain(const ProcStat &stat, const Known &fresh,
+                                                         const Known *before,
+                                                         Memory *memory) const {
+    const bool isSameFile = before && fresh.link && fresh.file && before->file == fresh.file;
+    if (isSameFile && isFoundByPath(*before->program, before->link)) {
+        const ProgramPath path = programPathOf(m_procFs, stat.pid, *fresh.link);
+        return {.program = afterMove(*before->program, path.path), .isSettled = true};
     }
-    const bool isSameFile = known && fresh.link && fresh.file && known->file == fresh.file;
-    if (isSameFile && isFoundByPath(*known->program, known->link))
-        fresh.program =
-            afterMove(*known->program, programPathOf(m_procFs, stat.pid, *fresh.link).path);
-    else if (isSameFile && known->program->isInBundle && known->image == fresh.image)
-        fresh.program = known->program; // only the interpreter of its script was moved
-    else
-        fresh.program = identify(stat, fresh.link, memory);
-    return fresh;
+    // An interpreter that was merely moved, or nothing that has changed at all.
+    if (isSameFile && before->program->isInBundle && before->image == fresh.image)
+        return {.program = before->program, .isSettled = before->isSettled};
+    return identify(stat, fresh.link, memory);
 }
 
-std::optional<ProcPrograms::Known> ProcPrograms::knownOf(const ProcStat &stat) {
+std::optional<ProcPrograms::Known> ProcPrograms::knownOf(std::int32_t pid) {
     const std::scoped_lock lock(m_mutex);
-    const auto found = m_known.find(stat.pid);
-    if (found == m_known.end() || found->second.startTicks != stat.startTicks)
-        return std::nullopt;
-    return found->second;
+    const auto found = m_known.find(pid);
+    return found == m_known.end() ? std::nullopt : std::optional(found->second);
 }
 
-void ProcPrograms::noteApplication(const ProcStat &stat) {
+void ProcPrograms::noteApplication(const Observation &process) {
     const std::scoped_lock lock(m_mutex);
-    const auto found = m_known.find(stat.pid);
-    if (found != m_known.end() && found->second.startTicks == stat.startTicks)
+    const auto found = m_known.find(process.pid);
+    if (found != m_known.end() && found->second.startTicks == process.startTicks)
         found->second.isApplication = true;
 }
 
-std::optional<uid_t> ProcPrograms::userOf(const ProcStat &stat) {
-    if (const std::optional<Known> known = knownOf(stat); known && known->user)
-        return known->user;
-    const std::optional<uid_t> user = m_procFs.effectiveUser(stat.pid);
-    const std::scoped_lock lock(m_mutex);
-    const auto found = m_known.find(stat.pid);
-    if (found != m_known.end() && found->second.startTicks == stat.startTicks)
-        found->second.user = user;
-    return user;
-}
-
-ProcPrograms::Pointer ProcPrograms::identify(const ProcStat &stat,
-                                             const std::optional<std::string> &link,
-                                             Memory *memory) const {
+ProcPrograms::Identification ProcPrograms::identify(const ProcStat &stat,
+                                                    const std::optional<std::string> &link,
+                                                    Memory *memory) const {
     if (!link) {
         const Program unreadable{.name = cutToRecord(nameWithoutLink(m_procFs, stat)),
                                  .signature = noSignature,
                                  .location = {},
                                  .isInBundle = false,
                                  .information = {}};
-        return std::make_shared<const Program>(unreadable);
+        return {.program = std::make_shared<const Program>(unreadable), .isSettled = false};
     }
     const ProgramPath program = programPathOf(m_procFs, stat.pid, *link);
     if (Pointer bundled = identifyBundled(program.path, program.isDeleted, memory))
-        return bundled;
-    if (const auto script = bundledScriptOf(m_procFs, stat.pid, program.path)) {
-        if (Pointer bundled = identifyBundled(*script, false, memory))
-            return bundled;
+        return {.program = bundled, .isSettled = true};
+    const BundledScript script = bundledScriptOf(m_procFs, stat.pid, program.path);
+    if (script.path) {
+        if (Pointer bundled = identifyBundled(*script.path, false, memory))
+            return {.program = bundled, .isSettled = false};
     }
     const QString path = decoded(program.path);
-    const Program plain{.name = cutToRecord(QFileInfo(path).fileName()),
+    const QString fileName = QFileInfo(path).fileName();
+    const Program plain{.name = cutToRecord(fileName),
                         .signature = noSignature,
                         .location = path,
                         .isInBundle = false,
                         .information = {}};
-    return std::make_shared<const Program>(plain);
+    return {.program = std::make_shared<const Program>(plain),
+            .isSettled = script.isFinal && !isInterpreterName(fileName.toStdString())};
 }
 
 ProcPrograms::Pointer ProcPrograms::identifyBundled(const std::string &path, bool isDeleted,

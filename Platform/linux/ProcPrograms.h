@@ -41,8 +41,10 @@ public:
 
     // One process at one moment.
     struct Observation {
-        ProcStat stat;
-        Pointer program; // never null
+        std::int32_t pid = 0;
+        std::uint64_t startTicks = 0; // since the system was booted
+        Pointer program;              // never null
+        std::optional<uid_t> user;    // whose rights the process has
         // Whether noteApplication() was called for the process.
         bool isKnownApplication = false;
     };
@@ -52,17 +54,18 @@ public:
         : m_procFs(procFs)
         , m_bundles(bundles) {}
 
-    // What the process is now; `link` is its ProcFs::programLink, read just before. No value when
-    // the process does not run any more.
-    std::optional<Observation> observe(std::int32_t pid, const std::optional<std::string> &link,
+    // What the process is, whose folder was found and whose ProcFs::programLink was read just
+    // before. No value when it does not run any more. Reads nothing more for a process that is
+    // known.
+    std::optional<Observation> observe(const ProcFolderEntry &folder,
+                                       const std::optional<std::string> &link,
                                        Memory *memory = nullptr);
+    // The same for the process that has the id now.
+    std::optional<Observation> observe(std::int32_t pid);
 
     // Remembers, until the process ends, that it showed itself to be an application, so that it
     // does not stop being one when its last window is hidden.
-    void noteApplication(const ProcStat &stat);
-
-    // The user whose rights the process has.
-    std::optional<uid_t> userOf(const ProcStat &stat);
+    void noteApplication(const Observation &process);
 
 private:
     // Tells a file from all others, whatever its name.
@@ -74,20 +77,31 @@ private:
     };
 
     struct Known {
+        ProcFolderEntry folder;
         std::uint64_t startTicks = 0;
         std::uint64_t image = 0; // see ProcStat
         std::optional<std::string> link;
         std::optional<FileIdentity> file;
         Pointer program;
+        // Whether the program is that one as long as the link leads to the same file. Not so for
+        // an interpreter, which may be loaded anew with another script.
+        bool isSettled = false;
         std::optional<uid_t> user;
         bool isApplication = false;
     };
 
-    std::optional<Known> knownOf(const ProcStat &stat);
-    Known lookClosely(const ProcStat &stat, const std::optional<Known> &known,
-                      Memory *memory) const;
-    Pointer identify(const ProcStat &stat, const std::optional<std::string> &link,
-                     Memory *memory) const;
+    struct Identification {
+        Pointer program;
+        bool isSettled = false;
+    };
+
+    std::optional<Known> knownOf(std::int32_t pid);
+    std::optional<Observation> lookClosely(ProcFolderEntry folder, std::optional<std::string> link,
+                                           Memory *memory);
+    Identification identifyAgain(const ProcStat &stat, const Known &fresh, const Known *before,
+                                 Memory *memory) const;
+    Identification identify(const ProcStat &stat, const std::optional<std::string> &link,
+                            Memory *memory) const;
     Pointer identifyBundled(const std::string &path, bool isDeleted, Memory *memory) const;
     Pointer afterMove(const Program &before, const std::string &path) const;
     QString locationOf(const std::string &path) const;

@@ -118,11 +118,13 @@ std::string_view interpreterOfScript(std::string_view content) {
     return word;
 }
 
-std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
-                                           const std::string &programPath) {
+BundledScript bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
+                              const std::string &programPath) {
     const std::string_view programName = fileNameOf(programPath);
+    const std::vector<std::string> arguments = procFs.commandLine(pid);
+    const BundledScript none = {.path = {}, .isFinal = !arguments.empty()};
     std::optional<std::string> folder;
-    for (std::string script : possibleScripts(programName, procFs.commandLine(pid))) {
+    for (std::string script : possibleScripts(programName, arguments)) {
         if (script.front() != '/') {
             if (!folder)
                 folder = procFs.workingFolder(pid).value_or(std::string());
@@ -132,12 +134,12 @@ std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pi
             continue;
         script = realPath(script);
         if (innermostBundlePath(script).empty())
-            return std::nullopt;
+            return none;
         if (!isInterpreterName(programName) && !namesInterpreter(script, programPath))
-            return std::nullopt;
-        return script;
+            return none;
+        return {.path = script, .isFinal = true};
     }
-    return std::nullopt;
+    return none;
 }
 
 } // namespace zt

@@ -29,10 +29,19 @@ std::vector<std::string> possibleScripts(std::string_view interpreterName,
 // when the line names none. Thread: any.
 std::string_view interpreterOfScript(std::string_view content);
 
-// The path of the script in a bundle that the process runs, whose program is the file at
-// `programPath`. No value when it runs none, or one that lies in no bundle. A file that the process
-// was merely given to work on does not count. Thread: any.
-std::optional<std::string> bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
-                                           const std::string &programPath);
+// What is known of the script that a process runs.
+struct BundledScript {
+    // The script's path; no value when the process runs none, or one that lies in no bundle. A file
+    // that the process was merely given to work on does not count.
+    std::optional<std::string> path;
+    // Whether that stays so until the process loads another program. Not so in the moment of a
+    // process's birth, in which it has no arguments yet.
+    bool isFinal = false;
+};
+
+// The script in a bundle that the process runs, whose program is the file at `programPath`.
+// Thread: any.
+BundledScript bundledScriptOf(const ProcFs &procFs, std::int32_t pid,
+                              const std::string &programPath);
 
 } // namespace zt

@@ -17,9 +17,12 @@ namespace zt {
 // uses one again, which takes longer than a tick; so two processes never share a serial number,
 // unless an id comes back in the very tick of a round of 497 days, after which the low half begins
 // again.
+inline ProcessSerialNumber serialNumberOf(std::int32_t pid, std::uint64_t startTicks) {
+    return {.high = static_cast<std::uint32_t>(pid), .low = static_cast<std::uint32_t>(startTicks)};
+}
+
 inline ProcessSerialNumber serialNumberOf(const ProcStat &stat) {
-    return {.high = static_cast<std::uint32_t>(stat.pid),
-            .low = static_cast<std::uint32_t>(stat.startTicks)};
+    return serialNumberOf(stat.pid, stat.startTicks);
 }
 
 inline std::int32_t processIdIn(ProcessSerialNumber serialNumber) {

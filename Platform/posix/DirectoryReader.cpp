@@ -32,7 +32,7 @@ const DirectoryReader::Entry *DirectoryReader::next() {
         const std::string_view name = entry->d_name;
         if (name == "." || name == "..")
             continue;
-        m_entry = {entry->d_name, entry->d_type, entry->d_off};
+        m_entry = {entry->d_name, entry->d_type, entry->d_off, entry->d_ino};
         return &m_entry;
     }
 }

@@ -22,6 +22,7 @@ public:
         const char *name = nullptr;    // valid until the next call of next()
         unsigned char type = 0;        // DT_REG, DT_DIR, DT_LNK ... or DT_UNKNOWN
         std::int64_t nextPosition = 0; // where reading goes on after this entry; see lseek
+        std::uint64_t number = 0;      // the inode's number
     };
 
     // `folder` is a folder's descriptor, read from its present position. The buffer outlives the

@@ -19,7 +19,6 @@ void writeFile(const fs::path &path, const std::string &content) {
 }
 
 void writeLink(const fs::path &path, const std::string &target) {
-    fs::remove(path);
     if (!target.empty())
         fs::create_symlink(target, path);
 }
@@ -45,8 +44,9 @@ std::string ProcFolder::statOf(const Process &process) {
 }
 
 void ProcFolder::add(const Process &process) const {
-    const fs::path folder = fs::path(root()) / std::to_string(process.pid);
-    fs::create_directories(folder);
+    // Another folder each time, as another look at the kernel's may give.
+    const fs::path folder = fs::path(root()) / "new";
+    fs::create_directory(folder);
     writeFile(folder / "stat", statOf(process));
     writeFile(folder / "status", "Name:\t" + process.name + "\nUmask:\t0022\nUid:\t" +
                                      std::to_string(process.user) + "\t" +
@@ -57,6 +57,10 @@ void ProcFolder::add(const Process &process) const {
     writeFile(folder / "cmdline", commandLine);
     writeLink(folder / "exe", process.programLink);
     writeLink(folder / "cwd", process.workingFolder);
+    const fs::path place = fs::path(root()) / std::to_string(process.pid);
+    if (fs::exists(place))
+        fs::rename(place, fs::path(root()) / ("old." + std::to_string(++m_replaced)));
+    fs::rename(folder, place);
 }
 
 void ProcFolder::remove(std::int32_t pid) const {
@@ -68,5 +72,6 @@ void ProcFolder::write(const std::string &name, const std::string &content) cons
 }
 
 void ProcFolder::setSelf(std::int32_t pid) const {
+    fs::remove(fs::path(root()) / "self");
     writeLink(fs::path(root()) / "self", std::to_string(pid));
 }

@@ -33,7 +33,7 @@ public:
 
     std::string root() const { return m_folder.path().toStdString(); }
 
-    // Writes the files of the process, over those that it had before.
+    // Writes the files of the process, in the place of those that it had before.
     void add(const Process &process) const;
     void remove(std::int32_t pid) const;
 
@@ -47,4 +47,5 @@ public:
 
 private:
     QTemporaryDir m_folder;
+    mutable int m_replaced = 0;
 };

@@ -23,14 +23,26 @@ TEST(ProcFsTest, onlyFoldersOfProcessesCount) {
     folder.add({.pid = 30});
     folder.add({.pid = 4});
     folder.write("uptime", "1 1\n");
-    std::vector<std::int32_t> ids = zt::ProcFs(folder.root()).processIds();
+    std::vector<std::int32_t> ids;
+    for (const zt::ProcFolderEntry &entry : zt::ProcFs(folder.root()).processes())
+        ids.push_back(entry.pid);
     std::ranges::sort(ids);
     EXPECT_EQ(ids, (std::vector<std::int32_t>{4, 30}));
 }
 
+TEST(ProcFsTest, theFolderOfAProcessHasOneNumberHoweverItIsFound) {
+    const ChildProcess child({"/bin/sleep", "600"});
+    const zt::ProcFs procFs;
+    const auto entry = procFs.entryOf(child.pid());
+    ASSERT_TRUE(entry);
+    EXPECT_TRUE(std::ranges::count(procFs.processes(), *entry));
+    EXPECT_EQ(procFs.entryOf(child.pid()), entry);
+    EXPECT_NE(procFs.entryOf(::getpid())->number, entry->number);
+}
+
 TEST(ProcFsTest, aFolderThatIsNotThereHasNoProcesses) {
     const zt::ProcFs procFs("/nowhere/at/all");
-    EXPECT_TRUE(procFs.processIds().empty());
+    EXPECT_TRUE(procFs.processes().empty());
     EXPECT_FALSE(procFs.ownProcessId());
     EXPECT_FALSE(procFs.stat(1));
 }
@@ -60,6 +72,7 @@ TEST(ProcFsTest, aProcessThatIsNotThereHasNoFacts) {
     folder.add({.pid = somePid});
     const zt::ProcFs procFs(folder.root());
     EXPECT_FALSE(procFs.stat(missingPid));
+    EXPECT_FALSE(procFs.entryOf(missingPid));
     EXPECT_FALSE(procFs.programLink(missingPid));
     EXPECT_FALSE(procFs.programStatus(missingPid));
     EXPECT_TRUE(procFs.commandLine(missingPid).empty());

@@ -71,7 +71,7 @@ protected:
                           .programLink = program,
                           .arguments = arguments,
                           .workingFolder = workingFolder});
-        return zt::bundledScriptOf(zt::ProcFs(m_procFolder.root()), pid, program);
+        return zt::bundledScriptOf(zt::ProcFs(m_procFolder.root()), pid, program).path;
     }
 
     std::string write(const QString &name, const QByteArray &content) const {
@@ -119,6 +119,14 @@ TEST_F(BundledScriptTest, onlyTheFirstFileIsTheScript) {
     const std::string tool = write(u"tool.py"_s, "print\n");
     const std::string data = write(u"X.app/data"_s, "data");
     EXPECT_EQ(scriptOf("/usr/bin/python3.11", {"python3", tool, data}), std::nullopt);
+}
+
+TEST_F(BundledScriptTest, nothingIsFinalBeforeTheProcessHasItsArguments) {
+    const zt::ProcFs procFs(m_procFolder.root());
+    m_procFolder.add({.pid = pid, .programLink = "/bin/dash"});
+    EXPECT_FALSE(zt::bundledScriptOf(procFs, pid, "/bin/dash").isFinal);
+    m_procFolder.add({.pid = pid, .programLink = "/bin/dash", .arguments = {"sh"}});
+    EXPECT_TRUE(zt::bundledScriptOf(procFs, pid, "/bin/dash").isFinal);
 }
 
 TEST_F(BundledScriptTest, aFolderIsNoScript) {
