@@ -114,9 +114,15 @@ std::optional<std::int32_t> X11ClientWindows::processOfActiveWindow() const {
     if (!m_connection.hasWindowManager())
         return std::nullopt;
     xcb_ewmh_connection_t *const hints = m_connection.hints();
+    const int screen = m_connection.screenNumber();
+    const auto activeQuestion = xcb_ewmh_get_active_window_unchecked(hints, screen);
+    const auto listQuestion = xcb_ewmh_get_client_list_unchecked(hints, screen);
     xcb_window_t active = XCB_NONE;
-    const auto question = xcb_ewmh_get_active_window_unchecked(hints, m_connection.screenNumber());
-    if (!xcb_ewmh_get_active_window_reply(hints, question, &active, nullptr) || active == XCB_NONE)
+    xcb_ewmh_get_active_window_reply(hints, activeQuestion, &active, nullptr);
+    const std::vector<xcb_window_t> windows = takeWindows(hints, listQuestion);
+    // A window manager may go on calling a window active that has gone, while the next program
+    // makes one with the same id. Its list is up to date.
+    if (std::find(windows.begin(), windows.end(), active) == windows.end())
         return std::nullopt;
     const X11ClientPids::Answer pids = m_clientPids.pidsOf({active});
     const Questions asked = ask(active);
