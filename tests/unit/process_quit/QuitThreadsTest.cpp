@@ -22,11 +22,20 @@
 #include <atomic>
 #include <thread>
 
+#include <unistd.h> // getpid
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr FourCharCode sample = fourCharCode("smPL");
+// A signature of this process's own, since tests run side by side and see each other's programs.
+QString ownSignature() {
+    constexpr int base = 36;
+    constexpr int codes = base * base * base;
+    return u's' + QString::number(getpid() % codes, base).rightJustified(3, u'0');
+}
+
+const FourCharCode sample = UTGetOSTypeFromString(ownSignature());
 
 class QuitThreadsTest : public testing::Test {
 protected:
@@ -64,7 +73,7 @@ protected:
     }
 
     TestBundles bundles;
-    QString bundle = bundles.add(u"Sample"_s, {{u"CFBundleSignature"_s, u"smPL"_s}});
+    QString bundle = bundles.add(u"Sample"_s, {{u"CFBundleSignature"_s, ownSignature()}});
     std::vector<std::string> commandLine = {TestBundles::program(bundle), "600"};
 
     FakePlatform fakes;
