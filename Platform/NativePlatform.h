@@ -10,8 +10,14 @@
 #include <QStringList>
 
 #include <memory>
+#include <thread>
 
 namespace zt {
+
+// Begins what takes the operating system a while before the first text can be shown, so that it is
+// done beside the making of the application object. Keep the thread until the program ends; it ends
+// by itself. Thread: main, first of all.
+std::jthread beginPreparingTexts();
 
 // Owns one of each service. Create it on the main thread after the application object, and let it
 // live as long as any service is used.

@@ -27,6 +27,7 @@ int applicationMain(int argumentCount, char **argumentVector) {
                    stderr);
         return 1;
     }
+    const std::jthread preparation = zt::beginPreparingTexts();
     QStringList arguments;
     for (int i = 0; i < argumentCount; ++i)
         arguments << QString::fromLocal8Bit(argumentVector[i]);

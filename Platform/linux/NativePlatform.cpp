@@ -21,6 +21,8 @@
 #include <QDir>
 #include <QStandardPaths>
 
+#include <fontconfig/fontconfig.h>
+
 using namespace Qt::StringLiterals;
 
 namespace zt {
@@ -36,6 +38,10 @@ QString settingsDomain(const Bundle &bundle) {
 }
 
 } // namespace
+
+std::jthread beginPreparingTexts() {
+    return std::jthread([] { FcInit(); }); // which is known to work on several threads
+}
 
 struct NativePlatform::Services {
     explicit Services(const QStringList &arguments)

@@ -67,6 +67,23 @@ TEST_F(IconFileTest, entriesThatCannotBeReadAreSkipped) {
     EXPECT_EQ(middleOf(*icon, 128), QColor(Qt::red));
 }
 
+TEST_F(IconFileTest, aContainerWithAWrongLengthGivesWhatStandsBeforeIt) {
+    QByteArray container = icns({{"ic07", png(64, Qt::red)}, {"ic08", png(256, Qt::blue)}});
+    const qsizetype second = container.indexOf("ic08");
+    for (const qsizetype length : {0, 7, 0x7fffffff}) {
+        container.replace(second + 4, 4, bigEndian(length));
+        const auto icon = loadIcon(write(u"a.icns"_s, container));
+        ASSERT_TRUE(icon) << length;
+        EXPECT_EQ(icon->availableSizes(), QList{QSize(64, 64)}) << length;
+    }
+}
+
+TEST_F(IconFileTest, aContainerThatEndsTooSoonHasNoIcon) {
+    const QByteArray container = icns({{"ic07", png(64, Qt::red)}});
+    for (const qsizetype length : {4, 7, 8, 15, 16, 40})
+        EXPECT_FALSE(loadIcon(write(u"a.icns"_s, container.first(length)))) << length;
+}
+
 TEST_F(IconFileTest, aDrawingIsSharpAtEverySize) {
     const QByteArray drawing = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 8 8\">"
                                "<rect width=\"8\" height=\"8\" fill=\"#00ff00\"/></svg>";
