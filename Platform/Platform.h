@@ -10,6 +10,7 @@ namespace zt {
 class Accessibility;
 class Appearance;
 class ApplicationEvents;
+class Authorization;
 class Bundles;
 class Clock;
 class Log;
@@ -38,6 +39,7 @@ struct Platform {
     RunningApplications &runningApplications;
     ApplicationEvents &applicationEvents;
     Accessibility &accessibility;
+    Authorization &authorization;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

@@ -6,11 +6,13 @@
 // What the desktop does for its applications: icons and names of files, opening them, telling
 // other programs of changes, and the standard folders.
 
+#include <QByteArray>
 #include <QIcon>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
+#include <cstdint>
 #include <optional>
 
 namespace zt {
@@ -28,6 +30,15 @@ public:
     // Opens the document in the application that the desktop assigns to it, or starts the bundle.
     // Answers whether that was under way. Thread: any.
     virtual bool openFile(const QString &path) = 0;
+
+    // Makes the bundle known to the desktop: its name, its icon, the types of files and addresses
+    // that it opens. What is known of a bundle with the same identifier is replaced. 0, or the
+    // number of an error, which is told in the log too. Thread: any.
+    virtual std::int32_t registerApplication(const QString &path) = 0;
+
+    // What the privileged tool has to be told to make the bundle, installed at the destination,
+    // known to all users of this computer. Empty when there is nothing to tell. Thread: any.
+    virtual QByteArray registrationForTool(const QString &bundle, const QString &destination) = 0;
 
     // Opens the address in the default browser or other handler. Answers whether that was under
     // way. Thread: any.

@@ -40,6 +40,7 @@ InstallerWinController::InstallerWinController(Environment environment)
     m_ui.progressIndicator->setSizePolicy(progressPolicy);
     animateProgress(Progress::Stopped);
 
+    m_heldKeys.watch(*m_ui.installButton);
     connect(m_ui.installButton, &QPushButton::clicked, this, &InstallerWinController::install);
     connect(m_ui.cancelButton, &QPushButton::clicked, this, &InstallerWinController::cancel);
     connect(m_ui.helpButton, &QPushButton::clicked, this,

@@ -5,6 +5,7 @@
 
 // The installer's central object: fills the window, answers its buttons and runs the installation.
 
+#include "Installer/Sources/HeldKeys.h"
 #include "Platform/Bundles.h"
 #include "Platform/Platform.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
@@ -88,6 +89,18 @@ public:
     // The name of the first of them that still runs.
     std::optional<QString> processToQuitStillRunning() const;
 
+    // Putting the product in its place. Thread: install.
+
+    // Copies the product, with an administrator's rights where this user lacks them or the Option
+    // key was held, then makes it known to the desktop and launches it. No value for success, an
+    // empty text when the user did not give consent, else the key of a message.
+    std::optional<QString> installMyselfInDestination(const std::stop_token &stop = {});
+    // Has the privileged tool copy the product. Whether it did; `canceled`, which may be null, is
+    // told whether it was the user who did not want it.
+    bool authorizedInstall(const QString &source, const QString &to,
+                           const std::optional<QString> &wrap, bool *canceled,
+                           const std::stop_token &stop = {});
+
     // Button actions.
     void install();
     void cancel();
@@ -123,7 +136,9 @@ private:
     // The installation. Thread: install.
     void installThread(const std::stop_token &stop);
     std::optional<QString> quitRunningCopies(const std::stop_token &stop) const;
-    std::optional<QString> installMyselfInDestination(const std::stop_token &stop);
+    std::optional<QString> copyDirectly(const std::stop_token &stop);
+    void handOver(const std::stop_token &stop);
+    bool hasIcon(const QString &path, const std::stop_token &stop);
     QString failureMessage(const QString &messageKey) const;
 
     void applyTimedQuit();
@@ -139,5 +154,7 @@ private:
     QPalette m_platformPalette; // the one that the desktop gave at start
     QVariantMap m_arguments;    // fixed once start-up is done; the install thread reads it
     bool m_finished = false;
+    HeldKeys m_heldKeys;
+    bool m_forcesAuthorization = false; // set before the install thread starts
     std::jthread m_installThread;
 };

@@ -4,15 +4,11 @@
 #include "Installer/Sources/InstallerWinController.h"
 
 #include "Installer/Sources/LocalizedString.h"
-#include "Installer/train/InstallFunction.h"
 #include "Platform/Clock.h"
-#include "Platform/Log.h"
-#include "Platform/Workspace.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 
 #include <QApplication>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -26,6 +22,7 @@ void InstallerWinController::install() {
         selectTab(MainPage);
         return;
     }
+    m_forcesAuthorization = m_heldKeys.optionWasHeld();
     m_ui.installButton->setEnabled(false);
     m_ui.cancelButton->setEnabled(false);
     m_installThread = std::jthread([this](const std::stop_token &stop) { installThread(stop); });
@@ -78,35 +75,6 @@ InstallerWinController::quitRunningCopies(const std::stop_token &stop) const {
             break;
     }
     return processToQuitStillRunning();
-}
-
-std::optional<QString>
-InstallerWinController::installMyselfInDestination(const std::stop_token &stop) {
-    const auto bytes = [this](const QString &key) {
-        return QFile::encodeName(argument(key).value_or(QString())).toStdString();
-    };
-    InstallPaths paths{.source = bytes(ZTInstallerKeySourcePath),
-                       .destination = bytes(ZTInstallerKeyDestinationPath),
-                       .wrapper = std::nullopt};
-    if (m_arguments.contains(ZTInstallerKeyWrapperPath))
-        paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
-    const InstallResult result = InstallApplication(
-        paths, {.trash = m_platform.trash,
-                .log = [this](std::string_view line) { m_platform.log.writeLine(line); },
-                .noteFileSystemChanged =
-                    [this](const std::string &path) {
-                        m_platform.workspace.noteFileSystemChanged(QFile::decodeName(path.c_str()));
-                    },
-                .stop = stop});
-    switch (result) {
-    case InstallResult::Success:
-        return std::nullopt;
-    case InstallResult::TrashFailed:
-        return u"Could not delete existing copy."_s;
-    case InstallResult::CopyFailed:
-        break;
-    }
-    return u"Installation failed."_s;
 }
 
 QString InstallerWinController::failureMessage(const QString &messageKey) const {

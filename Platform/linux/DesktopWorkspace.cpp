@@ -4,7 +4,11 @@
 #include "Platform/linux/DesktopWorkspace.h"
 
 #include "Platform/Bundles.h"
+#include "Platform/Log.h"
+#include "Platform/linux/BundleIconFile.h"
+#include "Platform/linux/BundleLaunch.h"
 #include "Platform/linux/GLibPointer.h"
+#include "Platform/linux/registration/BundleRecord.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -12,26 +16,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QMimeDatabase>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
 namespace zt {
 
 namespace {
-
-std::optional<QString> iconPathOf(const Bundle &bundle) {
-    for (const QString &key : {u"CFBundleIconFile"_s, u"NSIcon"_s}) {
-        const auto name = bundle.stringForKey(key);
-        if (!name)
-            continue;
-        for (const QString &type : {u"icns"_s, QString(), u"svg"_s, u"png"_s}) {
-            if (auto path = bundle.pathForResource(*name, type))
-                return path;
-        }
-    }
-    return std::nullopt;
-}
 
 // The localized name in a folder's ".directory" file, as file managers show it.
 QString folderName(const QString &path) {
@@ -46,15 +36,17 @@ QString folderName(const QString &path) {
 
 } // namespace
 
-DesktopWorkspace::DesktopWorkspace(Folders folders, const Bundles &bundles)
+DesktopWorkspace::DesktopWorkspace(Folders folders, const Bundles &bundles, Log &log)
     : m_folders(std::move(folders))
-    , m_bundles(bundles) {}
+    , m_bundles(bundles)
+    , m_log(log)
+    , m_registration({m_folders.userData, m_folders.systemData}, log) {}
 
 QIcon DesktopWorkspace::iconForFile(const QString &path) {
     if (!QFileInfo::exists(path))
         return {};
     if (const auto bundle = m_bundles.bundleAtPath(path)) {
-        if (const auto iconPath = iconPathOf(*bundle))
+        if (const auto iconPath = iconFileOf(*bundle))
             return QIcon(*iconPath);
         return QIcon::fromTheme(u"application-x-executable"_s);
     }
@@ -63,10 +55,8 @@ QIcon DesktopWorkspace::iconForFile(const QString &path) {
 }
 
 bool DesktopWorkspace::openFile(const QString &path) {
-    if (const auto bundle = m_bundles.bundleAtPath(path)) {
-        return !bundle->executablePath().isEmpty() &&
-               QProcess::startDetached(bundle->executablePath(), {}, m_folders.home);
-    }
+    if (const auto bundle = m_bundles.bundleAtPath(path))
+        return launchBundle(*bundle, m_folders.home);
     return QFileInfo::exists(path) && openUrl(QUrl::fromLocalFile(path));
 }
 
@@ -84,6 +74,31 @@ QString DesktopWorkspace::displayName(const QString &path) const {
         return name.chopped(bundleSuffix.size());
     const QString localized = folderName(path);
     return localized.isEmpty() ? name : localized;
+}
+
+std::int32_t DesktopWorkspace::registerApplication(const QString &path) {
+    const auto bundle = m_bundles.bundleAtPath(path);
+    const Result<ApplicationRecord> record =
+        bundle ? recordOfBundle(*bundle, path)
+               : Error{"register", QFile::encodeName(path).toStdString(), "it is no bundle"};
+    const Result<void> registered =
+        record ? m_registration.registerForUser(*record) : Result<void>(record.error());
+    if (registered)
+        return 0;
+    m_log.writeLine(registered.error().text());
+    return bundle ? RegistrationError::cannotWrite : RegistrationError::notAnApplication;
+}
+
+QByteArray DesktopWorkspace::registrationForTool(const QString &bundle,
+                                                 const QString &destination) {
+    const auto source = m_bundles.bundleAtPath(bundle);
+    const Result<ApplicationRecord> record =
+        source ? recordOfBundle(*source, destination)
+               : Error{"register", QFile::encodeName(bundle).toStdString(), "it is no bundle"};
+    if (record)
+        return QByteArray::fromStdString(packedRecord(*record));
+    m_log.writeLine(record.error().text());
+    return {};
 }
 
 void DesktopWorkspace::noteFileSystemChanged(const QString &path) {

@@ -6,23 +6,29 @@
 // The workspace on a Linux desktop: icon theme, default applications, file managers.
 
 #include "Platform/Workspace.h"
+#include "Platform/linux/registration/DesktopRegistration.h"
 
 namespace zt {
 
 class Bundles;
+class Log;
 
 class DesktopWorkspace final : public Workspace {
 public:
     struct Folders {
         QString root; // what stands before "/Applications"; empty on a real system
         QString home;
+        QString userData;       // where this user's applications are registered
+        QStringList systemData; // and those of all users, the first one winning
     };
 
-    // `bundles` must outlive this.
-    DesktopWorkspace(Folders folders, const Bundles &bundles);
+    // `bundles` and `log` must outlive this.
+    DesktopWorkspace(Folders folders, const Bundles &bundles, Log &log);
 
     QIcon iconForFile(const QString &path) override;
     bool openFile(const QString &path) override;
+    std::int32_t registerApplication(const QString &path) override;
+    QByteArray registrationForTool(const QString &bundle, const QString &destination) override;
     bool openUrl(const QUrl &url) override;
     QString displayName(const QString &path) const override;
     void noteFileSystemChanged(const QString &path) override;
@@ -32,6 +38,8 @@ public:
 private:
     Folders m_folders;
     const Bundles &m_bundles;
+    Log &m_log;
+    DesktopRegistration m_registration;
 };
 
 } // namespace zt

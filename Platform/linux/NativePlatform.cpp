@@ -13,6 +13,7 @@
 #include "Platform/linux/LinuxSystemVersion.h"
 #include "Platform/linux/LinuxUserDefaults.h"
 #include "Platform/linux/PidfdRunningApplications.h"
+#include "Platform/linux/PolkitAuthorization.h"
 #include "Platform/linux/PortalAppearance.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/StandardErrorLog.h"
@@ -37,6 +38,12 @@ QString settingsDomain(const Bundle &bundle) {
     return bundle.stringForKey(u"CFBundleIdentifier"_s).value_or(QString());
 }
 
+DesktopWorkspace::Folders workspaceFolders() {
+    QStringList data = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    const QString userData = data.takeFirst();
+    return {QString(), QDir::homePath(), userData, data};
+}
+
 } // namespace
 
 std::jthread beginPreparingTexts() {
@@ -53,7 +60,7 @@ struct NativePlatform::Services {
     LinuxUserDefaults userDefaults;
     LinuxSystemVersion systemVersion;
     AutostartLoginItems loginItems{configurationFolder(), bundles};
-    DesktopWorkspace workspace{{QString(), QDir::homePath()}, bundles};
+    DesktopWorkspace workspace{workspaceFolders(), bundles, log};
     PortalAppearance appearance;
     FreedesktopTrash trash{FreedesktopTrash::rootsOfThisUser()};
     X11WindowSystem windowSystem;
@@ -61,6 +68,7 @@ struct NativePlatform::Services {
     PidfdRunningApplications runningApplications{clock, windowSystem};
     BusApplicationEvents applicationEvents;
     AtSpiAccessibility accessibility;
+    PolkitAuthorization authorization{log};
     Platform platform{.log = log,
                       .clock = clock,
                       .bundles = bundles,
@@ -74,7 +82,8 @@ struct NativePlatform::Services {
                       .processManager = processManager,
                       .runningApplications = runningApplications,
                       .applicationEvents = applicationEvents,
-                      .accessibility = accessibility};
+                      .accessibility = accessibility,
+                      .authorization = authorization};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

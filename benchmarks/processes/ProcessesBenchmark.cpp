@@ -78,7 +78,8 @@ public:
                      .processManager = m_manager,
                      .runningApplications = native.runningApplications,
                      .applicationEvents = native.applicationEvents,
-                     .accessibility = native.accessibility}
+                     .accessibility = native.accessibility,
+                     .authorization = native.authorization}
         , m_current(m_services) {
         ZTProcess::platformChanged();
     }

@@ -106,12 +106,17 @@ std::optional<QVariant> FakeUserDefaults::objectForKey(const QString &key,
 
 QIcon FakeWorkspace::iconForFile(const QString &path) {
     iconRequests << path;
-    return icon;
+    return iconRequests.size() <= iconsMissing ? QIcon() : icon;
 }
 
 bool FakeWorkspace::openFile(const QString &path) {
     openedFiles << path;
-    return true;
+    return openedFiles.size() > opensThatFail;
+}
+
+std::int32_t FakeWorkspace::registerApplication(const QString &path) {
+    registered << path;
+    return registrationStatus;
 }
 
 bool FakeWorkspace::openUrl(const QUrl &url) {

@@ -19,6 +19,7 @@
 
 #include "tests/fakes/FakeAccessibility.h"
 #include "tests/fakes/FakeApplicationEvents.h"
+#include "tests/fakes/FakeAuthorization.h"
 #include "tests/fakes/FakeProcessManager.h"
 #include "tests/fakes/FakeRunningApplications.h"
 #include "tests/fakes/FakeWindowSystem.h"
@@ -118,6 +119,10 @@ class FakeWorkspace final : public zt::Workspace {
 public:
     QIcon iconForFile(const QString &path) override;
     bool openFile(const QString &path) override;
+    std::int32_t registerApplication(const QString &path) override;
+    QByteArray registrationForTool(const QString &bundle, const QString &destination) override {
+        return (bundle + QStringLiteral(" at ") + destination).toUtf8();
+    }
     bool openUrl(const QUrl &url) override;
     QString displayName(const QString &path) const override;
     void noteFileSystemChanged(const QString &path) override;
@@ -129,7 +134,11 @@ public:
     QMap<QString, QString> displayNames;
     QIcon icon;
     QStringList iconRequests;
+    int iconsMissing = 0; // so many requests for an icon are answered with none
     QStringList openedFiles;
+    int opensThatFail = 0; // so many requests to open are answered with no
+    QStringList registered;
+    std::int32_t registrationStatus = 0;
     QList<QUrl> openedUrls;
     QStringList notedChanges;
     int beeps = 0;
@@ -176,6 +185,7 @@ struct FakePlatform {
     FakeRunningApplications runningApplications;
     FakeApplicationEvents applicationEvents;
     FakeAccessibility accessibility;
+    FakeAuthorization authorization;
     zt::Platform services{.log = log,
                           .clock = clock,
                           .bundles = bundles,
@@ -189,6 +199,7 @@ struct FakePlatform {
                           .processManager = processManager,
                           .runningApplications = runningApplications,
                           .applicationEvents = applicationEvents,
-                          .accessibility = accessibility};
+                          .accessibility = accessibility,
+                          .authorization = authorization};
     zt::ScopedPlatform current{services};
 };

@@ -64,7 +64,8 @@ protected:
                              .processManager = manager,
                              .runningApplications = runningApplications,
                              .applicationEvents = applicationEvents,
-                             .accessibility = fakes.accessibility};
+                             .accessibility = fakes.accessibility,
+                             .authorization = fakes.authorization};
     zt::ScopedPlatform current{services};
 };
 

@@ -7,12 +7,15 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "ZTStuff/ZTClasses/ZTProcess.h"
+
 #include "tests/fakes/FakePlatform.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -23,6 +26,7 @@ class InstallerFixture : public testing::Test {
 protected:
     InstallerFixture() {
         using namespace Qt::StringLiterals;
+        ZTProcess::platformChanged();
         makeFile(u"Disk/Demo.app/Contents/Linux/Demo"_s, "program");
         makeFolder(u"Applications"_s);
         makeFolder(u"Trash"_s);
@@ -31,6 +35,9 @@ protected:
                                        {u"CFBundleShortVersionString"_s, u"2.0"_s}});
         platform.bundles.setMainBundle(product + u"/Contents/Resources/VelmoraInstaller.app"_s);
         platform.workspace.localApplications = {path(u"Applications"_s)};
+        QPixmap picture(16, 16);
+        picture.fill(Qt::green);
+        platform.workspace.icon = QIcon(picture);
         platform.trash.folder = path(u"Trash"_s).toStdString();
     }
 

@@ -26,8 +26,10 @@ protected:
 
     QTemporaryDir folder;
     FakePlatform platform;
-    zt::DesktopWorkspace workspace{{folder.filePath(u"root"_s), folder.filePath(u"home"_s)},
-                                   platform.bundles};
+    zt::DesktopWorkspace workspace{
+        {folder.filePath(u"root"_s), folder.filePath(u"home"_s), folder.filePath(u"data"_s), {}},
+        platform.bundles,
+        platform.log};
 };
 
 TEST_F(DesktopWorkspaceTest, applicationsLieBelowTheRootAndTheHomeFolder) {

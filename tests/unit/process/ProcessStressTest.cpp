@@ -111,7 +111,8 @@ protected:
                             .processManager = m_manager,
                             .runningApplications = m_fakes.runningApplications,
                             .applicationEvents = m_fakes.applicationEvents,
-                            .accessibility = m_fakes.accessibility};
+                            .accessibility = m_fakes.accessibility,
+                            .authorization = m_fakes.authorization};
     zt::ScopedPlatform m_current{m_services};
     std::mt19937 m_random{4711};
     std::vector<Running> m_running;

@@ -122,7 +122,8 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
                              .processManager = manager,
                              .runningApplications = fakes.runningApplications,
                              .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility};
+                             .accessibility = fakes.accessibility,
+                             .authorization = fakes.authorization};
     const zt::ScopedPlatform current(services);
     ZTProcess::platformChanged();
     ZTProcess::installNotifications();

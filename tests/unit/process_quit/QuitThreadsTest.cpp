@@ -94,7 +94,8 @@ protected:
                              .processManager = manager,
                              .runningApplications = runningApplications,
                              .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility};
+                             .accessibility = fakes.accessibility,
+                             .authorization = fakes.authorization};
     zt::ScopedPlatform current{services};
 };
 

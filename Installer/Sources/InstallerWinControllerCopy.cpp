@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+#include "Installer/Sources/InstallerWinController.h"
+
+#include "Installer/Sources/AuthorizedExecute.h"
+#include "Installer/train/InstallFunction.h"
+#include "Platform/Clock.h"
+#include "Platform/Log.h"
+#include "Platform/Workspace.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
+#include "ZTStuff/ZTClasses/ZTProcess.h"
+
+#include <QFile>
+
+#include <future>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+std::optional<QString>
+InstallerWinController::installMyselfInDestination(const std::stop_token &stop) {
+    const QString destination = argument(ZTInstallerKeyDestinationPath).value_or(QString());
+    const bool isWritable = canWriteToPath(destination);
+    if (m_forcesAuthorization)
+        ZTLog("enforcing authorization");
+    if (isWritable && !m_forcesAuthorization) {
+        if (auto failure = copyDirectly(stop))
+            return failure;
+    } else {
+        bool canceled = false;
+        if (!authorizedInstall(argument(ZTInstallerKeySourcePath).value_or(QString()), destination,
+                               argument(ZTInstallerKeyWrapperPath), &canceled, stop)) {
+            if (canceled) {
+                ZTLog("User canceled authorization");
+                return QString();
+            }
+            ZTLog("ERROR -- Could not copy myself to /Applications with authorization");
+            return u"Authorized copying failed."_s;
+        }
+    }
+    handOver(stop);
+    return std::nullopt;
+}
+
+std::optional<QString> InstallerWinController::copyDirectly(const std::stop_token &stop) {
+    const auto bytes = [this](const QString &key) {
+        return QFile::encodeName(argument(key).value_or(QString())).toStdString();
+    };
+    InstallPaths paths{.source = bytes(ZTInstallerKeySourcePath),
+                       .destination = bytes(ZTInstallerKeyDestinationPath),
+                       .wrapper = std::nullopt};
+    if (m_arguments.contains(ZTInstallerKeyWrapperPath))
+        paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
+    const InstallResult result = InstallApplication(
+        paths, {.trash = m_platform.trash,
+                .log = [this](std::string_view line) { m_platform.log.writeLine(line); },
+                .noteFileSystemChanged =
+                    [this](const std::string &path) {
+                        m_platform.workspace.noteFileSystemChanged(QFile::decodeName(path.c_str()));
+                    },
+                .stop = stop});
+    switch (result) {
+    case InstallResult::Success:
+        return std::nullopt;
+    case InstallResult::TrashFailed:
+        return u"Could not delete existing copy."_s;
+    case InstallResult::CopyFailed:
+        break;
+    }
+    return u"Installation failed."_s;
+}
+
+bool InstallerWinController::authorizedInstall(const QString &source, const QString &to,
+                                               const std::optional<QString> &wrap, bool *canceled,
+                                               const std::stop_token &stop) {
+    if (canceled)
+        *canceled = false;
+    if (to.trimmed().isEmpty() || source.trimmed().isEmpty())
+        return false;
+    const auto showProgress = [this](Progress progress) {
+        QMetaObject::invokeMethod(
+            this, [this, progress] { animateProgress(progress); }, Qt::QueuedConnection);
+    };
+    // Nothing is to move while the system's own dialog waits for an answer.
+    showProgress(Progress::Stopped);
+    const auto authorization = m_platform.authorization.create();
+    if (!authorization)
+        return false;
+    zt::PrivilegedCommand command;
+    command.tool = m_platform.bundles.mainBundle().pathForResource(u"train"_s).value_or(QString());
+    command.arguments = {source, to};
+    if (wrap)
+        command.arguments << *wrap;
+    command.input = m_platform.workspace.registrationForTool(source, to);
+    const std::int32_t status = authorization->requestRight(command, stop);
+    if (status != zt::AuthorizationStatus::success) {
+        if (canceled)
+            *canceled = status == zt::AuthorizationStatus::canceled;
+        return false;
+    }
+    showProgress(Progress::Running);
+    return AuthorizedExecute(*authorization, command) == 0;
+}
+
+// Whether the desktop has an icon for the item. Icons belong to the main thread.
+bool InstallerWinController::hasIcon(const QString &path, const std::stop_token &stop) {
+    const auto answer = std::make_shared<std::promise<bool>>();
+    std::future<bool> found = answer->get_future();
+    QMetaObject::invokeMethod(
+        this,
+        [this, path, answer] {
+            answer->set_value(!m_platform.workspace.iconForFile(path).isNull());
+        },
+        Qt::QueuedConnection);
+    // The main thread may be waiting for this one to end.
+    while (found.wait_for(20ms) != std::future_status::ready) {
+        if (stop.stop_requested())
+            return false;
+    }
+    return found.get();
+}
+
+// Makes the installed product known and launches it. Whatever fails here, the product is in place.
+void InstallerWinController::handOver(const std::stop_token &stop) {
+    constexpr int launchRetries = 10;
+    const QString destination = argument(ZTInstallerKeyDestinationPath).value_or(QString());
+    zt::Workspace &workspace = m_platform.workspace;
+    ZTLog("successfully copied");
+    workspace.noteFileSystemChanged(destination);
+    ZTLog("launching %@", destination);
+    m_platform.clock.sleepFor(500ms);
+    ZTLog("registered app: %d", workspace.registerApplication(destination));
+    m_platform.clock.sleepFor(100ms);
+    if (!hasIcon(destination, stop)) {
+        ZTLog("did not get icon");
+        m_platform.clock.sleepFor(1s);
+        ZTLog("retry; %@", hasIcon(destination, stop) ? u"succeeded"_s : u"failed"_s);
+    }
+    bool isOpen = workspace.openFile(destination);
+    ZTLog("launched immediately: %d", int(isOpen));
+    for (int retry = 0; !isOpen && retry < launchRetries && !stop.stop_requested(); ++retry) {
+        m_platform.clock.sleepFor(500ms);
+        ZTLog("retry opening");
+        isOpen = workspace.openFile(destination);
+        ZTLog("launched: %d", int(isOpen));
+    }
+    // The message that all went well is to be seen over the product's windows.
+    if (const auto self = ZTProcess::currentProcess())
+        self->setFrontProcessFrontWindowOnly();
+}
