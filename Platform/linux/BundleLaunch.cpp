@@ -5,11 +5,12 @@
 
 #include "Platform/linux/X11Connection.h"
 
-#include <QProcess>
+#include <QByteArrayList>
+#include <QFile>
 #include <QProcessEnvironment>
 #include <QSysInfo>
 
-#include <linux/close_range.h>
+#include <glib.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -43,24 +44,46 @@ QString startupId(std::uint32_t serverTime) {
         .arg(serverTime);
 }
 
+// Texts as a list that ends with a null pointer.
+class ArgumentList {
+public:
+    explicit ArgumentList(const QStringList &texts) {
+        for (const QString &text : texts)
+            m_bytes << QFile::encodeName(text);
+        for (QByteArray &text : m_bytes)
+            m_pointers << text.data();
+        m_pointers << nullptr;
+    }
+
+    char **get() { return m_pointers.data(); }
+
+private:
+    QByteArrayList m_bytes;
+    QList<char *> m_pointers;
+};
+
+void beginSession(gpointer /*data*/) {
+    ::setsid();
+}
+
 } // namespace
 
-bool launchBundle(const Bundle &bundle, const QString &workingFolder) {
+std::optional<std::int32_t> launchBundle(const Bundle &bundle, const QString &workingFolder) {
     if (bundle.executablePath().isEmpty())
-        return false;
+        return std::nullopt;
     QProcessEnvironment environment = environmentForOthers();
     if (const auto server = X11Connection::open())
         environment.insert(u"DESKTOP_STARTUP_ID"_s, startupId(server->serverTime()));
-    QProcess process;
-    process.setProgram(bundle.executablePath());
-    process.setWorkingDirectory(workingFolder);
-    process.setProcessEnvironment(environment);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.setChildProcessModifier(
-        [] { ::close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC); });
-    return process.startDetached();
+    ArgumentList arguments({bundle.executablePath()});
+    ArgumentList variables(environment.toStringList());
+    GPid pid = 0;
+    // Standard input comes from nowhere and all other descriptors are closed.
+    const bool isStarted =
+        g_spawn_async(QFile::encodeName(workingFolder).constData(), arguments.get(),
+                      variables.get(),
+                      GSpawnFlags(G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL),
+                      beginSession, nullptr, &pid, nullptr);
+    return isStarted ? std::optional<std::int32_t>(pid) : std::nullopt;
 }
 
 } // namespace zt

@@ -4,7 +4,9 @@
 #include "Platform/linux/DesktopWorkspace.h"
 
 #include "Platform/Bundles.h"
+#include "Platform/Clock.h"
 #include "Platform/Log.h"
+#include "Platform/WindowSystem.h"
 #include "Platform/linux/BundleIconFile.h"
 #include "Platform/linux/BundleLaunch.h"
 #include "Platform/linux/GLibPointer.h"
@@ -17,11 +19,18 @@
 #include <QFileInfo>
 #include <QMimeDatabase>
 
+#include <csignal> // kill
+
 using namespace Qt::StringLiterals;
 
 namespace zt {
 
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto patienceForWindow = 3s;
+constexpr auto pollInterval = 20ms;
 
 // The localized name in a folder's ".directory" file, as file managers show it.
 QString folderName(const QString &path) {
@@ -36,16 +45,15 @@ QString folderName(const QString &path) {
 
 } // namespace
 
-DesktopWorkspace::DesktopWorkspace(Folders folders, const Bundles &bundles, Log &log)
+DesktopWorkspace::DesktopWorkspace(Folders folders, const Services &services)
     : m_folders(std::move(folders))
-    , m_bundles(bundles)
-    , m_log(log)
-    , m_registration({m_folders.userData, m_folders.systemData}, log) {}
+    , m_services(services)
+    , m_registration({m_folders.userData, m_folders.systemData}, services.log) {}
 
 QIcon DesktopWorkspace::iconForFile(const QString &path) {
     if (!QFileInfo::exists(path))
         return {};
-    if (const auto bundle = m_bundles.bundleAtPath(path)) {
+    if (const auto bundle = m_services.bundles.bundleAtPath(path)) {
         if (const auto iconPath = iconFileOf(*bundle))
             return QIcon(*iconPath);
         return QIcon::fromTheme(u"application-x-executable"_s);
@@ -54,9 +62,22 @@ QIcon DesktopWorkspace::iconForFile(const QString &path) {
     return QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
 }
 
+// Comes back once the program shows its first window, so that who wants to be seen before it can be;
+// a program without windows is not waited for long.
+bool DesktopWorkspace::launch(const Bundle &bundle) {
+    const auto pid = launchBundle(bundle, m_folders.home);
+    if (!pid)
+        return false;
+    const auto deadline = m_services.clock.steadyNow() + patienceForWindow;
+    while (m_services.clock.steadyNow() < deadline && ::kill(*pid, 0) == 0 &&
+           !m_services.windowSystem.processesWithWindows().contains(*pid))
+        m_services.clock.sleepFor(pollInterval);
+    return true;
+}
+
 bool DesktopWorkspace::openFile(const QString &path) {
-    if (const auto bundle = m_bundles.bundleAtPath(path))
-        return launchBundle(*bundle, m_folders.home);
+    if (const auto bundle = m_services.bundles.bundleAtPath(path))
+        return launch(*bundle);
     return QFileInfo::exists(path) && openUrl(QUrl::fromLocalFile(path));
 }
 
@@ -77,7 +98,7 @@ QString DesktopWorkspace::displayName(const QString &path) const {
 }
 
 std::int32_t DesktopWorkspace::registerApplication(const QString &path) {
-    const auto bundle = m_bundles.bundleAtPath(path);
+    const auto bundle = m_services.bundles.bundleAtPath(path);
     const Result<ApplicationRecord> record =
         bundle ? recordOfBundle(*bundle, path)
                : Error{"register", QFile::encodeName(path).toStdString(), "it is no bundle"};
@@ -85,19 +106,19 @@ std::int32_t DesktopWorkspace::registerApplication(const QString &path) {
         record ? m_registration.registerForUser(*record) : Result<void>(record.error());
     if (registered)
         return 0;
-    m_log.writeLine(registered.error().text());
+    m_services.log.writeLine(registered.error().text());
     return bundle ? RegistrationError::cannotWrite : RegistrationError::notAnApplication;
 }
 
 QByteArray DesktopWorkspace::registrationForTool(const QString &bundle,
                                                  const QString &destination) {
-    const auto source = m_bundles.bundleAtPath(bundle);
+    const auto source = m_services.bundles.bundleAtPath(bundle);
     const Result<ApplicationRecord> record =
         source ? recordOfBundle(*source, destination)
                : Error{"register", QFile::encodeName(bundle).toStdString(), "it is no bundle"};
     if (record)
         return QByteArray::fromStdString(packedRecord(*record));
-    m_log.writeLine(record.error().text());
+    m_services.log.writeLine(record.error().text());
     return {};
 }
 

@@ -10,8 +10,11 @@
 
 namespace zt {
 
+class Bundle;
 class Bundles;
+class Clock;
 class Log;
+class WindowSystem;
 
 class DesktopWorkspace final : public Workspace {
 public:
@@ -22,8 +25,15 @@ public:
         QStringList systemData; // and those of all users, the first one winning
     };
 
-    // `bundles` and `log` must outlive this.
-    DesktopWorkspace(Folders folders, const Bundles &bundles, Log &log);
+    // Services that outlive this.
+    struct Services {
+        const Bundles &bundles;
+        const WindowSystem &windowSystem;
+        Clock &clock;
+        Log &log;
+    };
+
+    DesktopWorkspace(Folders folders, const Services &services);
 
     QIcon iconForFile(const QString &path) override;
     bool openFile(const QString &path) override;
@@ -36,9 +46,10 @@ public:
     void beep() override;
 
 private:
+    bool launch(const Bundle &bundle);
+
     Folders m_folders;
-    const Bundles &m_bundles;
-    Log &m_log;
+    Services m_services;
     DesktopRegistration m_registration;
 };
 

@@ -60,10 +60,10 @@ struct NativePlatform::Services {
     LinuxUserDefaults userDefaults;
     LinuxSystemVersion systemVersion;
     AutostartLoginItems loginItems{configurationFolder(), bundles};
-    DesktopWorkspace workspace{workspaceFolders(), bundles, log};
     PortalAppearance appearance;
     FreedesktopTrash trash{FreedesktopTrash::rootsOfThisUser()};
     X11WindowSystem windowSystem;
+    DesktopWorkspace workspace{workspaceFolders(), {bundles, windowSystem, clock, log}};
     ProcProcessManager processManager{bundles, windowSystem};
     PidfdRunningApplications runningApplications{clock, windowSystem};
     BusApplicationEvents applicationEvents;

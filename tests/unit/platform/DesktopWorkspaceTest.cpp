@@ -28,8 +28,7 @@ protected:
     FakePlatform platform;
     zt::DesktopWorkspace workspace{
         {folder.filePath(u"root"_s), folder.filePath(u"home"_s), folder.filePath(u"data"_s), {}},
-        platform.bundles,
-        platform.log};
+        {platform.bundles, platform.windowSystem, platform.clock, platform.log}};
 };
 
 TEST_F(DesktopWorkspaceTest, applicationsLieBelowTheRootAndTheHomeFolder) {
