@@ -21,6 +21,9 @@ namespace {
 
 constexpr mode_t permissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
 
+// What a copy takes over that only its owner may write to.
+constexpr mode_t sharedBits = S_IRWXU | S_IRGRP | S_IXGRP | S_IROTH | S_IXOTH;
+
 // The largest list of names and the largest value that Linux allows.
 constexpr std::size_t maximumAttributeSize = std::size_t(64) * 1024;
 
@@ -41,7 +44,7 @@ std::vector<gid_t> ownGroups() {
     std::vector<gid_t> groups(count > 0 ? static_cast<std::size_t>(count) : 0);
     if (!groups.empty() && ::getgroups(count, groups.data()) != count)
         groups.clear();
-    groups.push_back(::getegid());
+    groups.push_back(FileSystemIdentity::current().group);
     return groups;
 }
 
@@ -84,24 +87,44 @@ std::array<timespec, 2> timesOf(const struct stat &status) {
 
 } // namespace
 
-CopiedMetadata::CopiedMetadata(const struct stat &newItem,
+CopiedMetadata::CopiedMetadata(const struct stat &newItem, CopiedRights rights,
+                               const std::optional<FileSystemIdentity> &writer,
                                std::function<void(std::string_view)> note)
-    : m_newUser(newItem.st_uid)
+    : m_rights(rights)
+    , m_writer(writer)
+    , m_owner(writer.value_or(FileSystemIdentity::current()))
+    , m_newUser(newItem.st_uid)
     , m_newGroup(newItem.st_gid)
     , m_mask(creationMask())
-    , m_isPrivileged(::geteuid() == 0)
+    , m_isPrivileged(m_owner.user == 0)
     , m_groups(ownGroups())
     , m_note(std::move(note)) {}
 
-mode_t CopiedMetadata::creationMode(const struct stat &original) {
-    return (original.st_mode & permissionBits) | S_IWUSR;
+mode_t CopiedMetadata::creationMode(const struct stat &original, CopiedRights rights) {
+    const mode_t taken = rights == CopiedRights::All ? permissionBits : sharedBits;
+    return (original.st_mode & taken) | S_IWUSR;
 }
 
 bool CopiedMetadata::mayGive(gid_t group) const {
     return m_isPrivileged || std::find(m_groups.begin(), m_groups.end(), group) != m_groups.end();
 }
 
-CopiedMetadata::Ownership CopiedMetadata::applyOwner(int copy, const struct stat &status) const {
+// New files get another owner than their writer where the folder or the file system decides it.
+Result<CopiedMetadata::Ownership> CopiedMetadata::applyOwnOwner(int copy) const {
+    Ownership ownership;
+    if (m_newUser == m_owner.user && m_newGroup == m_owner.group)
+        return ownership;
+    if (::fchown(copy, m_owner.user, m_owner.group) != 0)
+        return Error::fromErrno("set the owner of", {});
+    ownership.wasSet = true;
+    return ownership;
+}
+
+Result<CopiedMetadata::Ownership> CopiedMetadata::applyOwner(int copy,
+                                                             const struct stat &status) const {
+    const ActingAs writing(m_writer);
+    if (m_rights == CopiedRights::ReadingAndRunning)
+        return applyOwnOwner(copy);
     Ownership ownership{.userIsKept = status.st_uid == m_newUser,
                         .groupIsKept = status.st_gid == m_newGroup};
     const bool setsUser = !ownership.userIsKept && m_isPrivileged;
@@ -122,8 +145,25 @@ CopiedMetadata::Ownership CopiedMetadata::applyOwner(int copy, const struct stat
 bool CopiedMetadata::needsMode(const struct stat &status, mode_t mode,
                                const Ownership &ownership) const {
     const mode_t created =
-        S_ISDIR(status.st_mode) ? mode_t(S_IRWXU) : creationMode(status) & ~m_mask;
+        S_ISDIR(status.st_mode) ? mode_t(S_IRWXU) : creationMode(status, m_rights) & ~m_mask;
     return created != mode || ownership.wasSet;
+}
+
+mode_t CopiedMetadata::modeOf(const struct stat &status, const Ownership &ownership) const {
+    mode_t mode = status.st_mode & ~static_cast<mode_t>(S_IFMT);
+    if (m_rights == CopiedRights::ReadingAndRunning) {
+        const mode_t ofOwner = S_ISDIR(status.st_mode) ? S_IRWXU : S_IRUSR | S_IWUSR;
+        return (mode & sharedBits) | ofOwner;
+    }
+    if (!ownership.userIsKept)
+        mode &= ~static_cast<mode_t>(S_ISUID);
+    if (!ownership.groupIsKept && !S_ISDIR(status.st_mode))
+        mode &= ~static_cast<mode_t>(S_ISGID);
+    return mode;
+}
+
+bool CopiedMetadata::takesOver(std::string_view attribute) const {
+    return m_rights == CopiedRights::All || attribute.starts_with("user.");
 }
 
 Result<void> CopiedMetadata::copyAttribute(int original, int copy, const std::string &name) const {
@@ -136,8 +176,11 @@ Result<void> CopiedMetadata::copyAttribute(int original, int copy, const std::st
         size = ::fgetxattr(original, name.c_str(), large.data(), large.size());
         value = large.data();
     }
-    if (size >= 0 && ::fsetxattr(copy, name.c_str(), value, static_cast<std::size_t>(size), 0) == 0)
-        return {};
+    if (size >= 0) {
+        const ActingAs writing(m_writer);
+        if (::fsetxattr(copy, name.c_str(), value, static_cast<std::size_t>(size), 0) == 0)
+            return {};
+    }
     // An attribute that was there a moment ago and is gone is not missed.
     if (errno == ENODATA || (needsPrivilege(name) && meansCannotKeep(errno)))
         return {};
@@ -150,35 +193,44 @@ Result<void> CopiedMetadata::copyAttribute(int original, int copy, const std::st
     return {};
 }
 
+Result<void> CopiedMetadata::copyAttributes(int original, int copy, const std::string &names,
+                                            bool accessLists) const {
+    for (std::size_t place = 0; place < names.size();) {
+        const std::string name = names.c_str() + place;
+        place += name.size() + 1;
+        if (isAccessList(name) != accessLists || !takesOver(name))
+            continue;
+        if (Result<void> copied = copyAttribute(original, copy, name); !copied)
+            return copied;
+    }
+    return {};
+}
+
+Result<void> CopiedMetadata::applyMode(int copy, const struct stat &status,
+                                       const Ownership &ownership) const {
+    const ActingAs writing(m_writer);
+    const mode_t mode = modeOf(status, ownership);
+    if (needsMode(status, mode, ownership) && ::fchmod(copy, mode) != 0)
+        return Error::fromErrno("set the mode of", {});
+    return {};
+}
+
 Result<void> CopiedMetadata::apply(int original, int copy, const struct stat &status) const {
-    const Ownership ownership = applyOwner(copy, status);
     const Result<std::string> names = attributeNames(original);
     if (!names)
         return names.error();
-    const auto copyAttributes = [&](bool accessLists) -> Result<void> {
-        for (std::size_t place = 0; place < names->size();) {
-            const std::string name = names->c_str() + place;
-            place += name.size() + 1;
-            if (isAccessList(name) != accessLists)
-                continue;
-            if (Result<void> copied = copyAttribute(original, copy, name); !copied)
-                return copied;
-        }
-        return {};
-    };
+    const Result<Ownership> ownership = applyOwner(copy, status);
+    if (!ownership)
+        return ownership.error();
     // Attributes come before the mode, which may forbid to set them; access lists after it, for it
     // would change them.
-    if (Result<void> copied = copyAttributes(false); !copied)
+    if (Result<void> copied = copyAttributes(original, copy, *names, false); !copied)
         return copied;
-    mode_t mode = status.st_mode & ~static_cast<mode_t>(S_IFMT);
-    if (!ownership.userIsKept)
-        mode &= ~static_cast<mode_t>(S_ISUID);
-    if (!ownership.groupIsKept && !S_ISDIR(status.st_mode))
-        mode &= ~static_cast<mode_t>(S_ISGID);
-    if (needsMode(status, mode, ownership) && ::fchmod(copy, mode) != 0)
-        return Error::fromErrno("set the mode of", {});
-    if (Result<void> copied = copyAttributes(true); !copied)
+    if (Result<void> applied = applyMode(copy, status, *ownership); !applied)
+        return applied;
+    if (Result<void> copied = copyAttributes(original, copy, *names, true); !copied)
         return copied;
+    const ActingAs writing(m_writer);
     if (::futimens(copy, timesOf(status).data()) != 0)
         return Error::fromErrno("set the times of", {});
     return {};
@@ -186,11 +238,14 @@ Result<void> CopiedMetadata::apply(int original, int copy, const struct stat &st
 
 Result<void> CopiedMetadata::applyToLink(int folder, const char *name,
                                          const struct stat &status) const {
-    const bool hasOtherOwner = status.st_uid != m_newUser || status.st_gid != m_newGroup;
+    const ActingAs writing(m_writer);
+    const FileSystemIdentity owner =
+        m_rights == CopiedRights::All ? FileSystemIdentity{status.st_uid, status.st_gid} : m_owner;
+    const bool hasOtherOwner = owner != FileSystemIdentity{m_newUser, m_newGroup};
     // A link's owner has no effect; where it cannot be kept, nothing is lost.
     if (m_isPrivileged && hasOtherOwner) {
         [[maybe_unused]] const int owned =
-            ::fchownat(folder, name, status.st_uid, status.st_gid, AT_SYMLINK_NOFOLLOW);
+            ::fchownat(folder, name, owner.user, owner.group, AT_SYMLINK_NOFOLLOW);
     }
     if (::utimensat(folder, name, timesOf(status).data(), AT_SYMLINK_NOFOLLOW) != 0)
         return Error::fromErrno("set the times of", {});

@@ -6,12 +6,15 @@
 // Giving a copy the owner, attributes, access lists, mode and times of its original.
 
 #include "Platform/Result.h"
+#include "Platform/posix/FileSystemIdentity.h"
+#include "Platform/posix/TreeCopy.h"
 
 #include <sys/stat.h>
 #include <sys/types.h>
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,16 +24,20 @@ namespace zt {
 // What new files of one copy are like before anything is set. Thread: any.
 class CopiedMetadata {
 public:
-    // `newItem` is the status of any file or folder just made for the copy. `note` is told once
-    // when attributes cannot be kept; it may be empty.
-    CopiedMetadata(const struct stat &newItem, std::function<void(std::string_view)> note);
+    // `newItem` is the status of any file or folder just made for the copy. The copy is written as
+    // `writer`, as this thread if there is none. `note` is told once when attributes cannot be
+    // kept; it may be empty.
+    CopiedMetadata(const struct stat &newItem, CopiedRights rights,
+                   const std::optional<FileSystemIdentity> &writer,
+                   std::function<void(std::string_view)> note);
 
     // The mode with which to create a copy so that it can be written to, and so that setting its
     // mode afterwards is seldom needed.
-    static mode_t creationMode(const struct stat &original);
+    static mode_t creationMode(const struct stat &original, CopiedRights rights);
 
     // Sets everything on an open copy that was made with creationMode() and is otherwise complete.
-    // On failure the error names the operation, not the object.
+    // The original is read as this thread. On failure the error names the operation, not the
+    // object.
     Result<void> apply(int original, int copy, const struct stat &status) const;
 
     // The same for a link, by its name in the open folder.
@@ -43,11 +50,20 @@ private:
         bool wasSet = false;
     };
 
-    Ownership applyOwner(int copy, const struct stat &status) const;
+    Result<Ownership> applyOwner(int copy, const struct stat &status) const;
+    Result<Ownership> applyOwnOwner(int copy) const;
     bool mayGive(gid_t group) const;
+    bool takesOver(std::string_view attribute) const;
+    mode_t modeOf(const struct stat &status, const Ownership &ownership) const;
     bool needsMode(const struct stat &status, mode_t mode, const Ownership &ownership) const;
+    Result<void> applyMode(int copy, const struct stat &status, const Ownership &ownership) const;
     Result<void> copyAttribute(int original, int copy, const std::string &name) const;
+    Result<void> copyAttributes(int original, int copy, const std::string &names,
+                                bool accessLists) const;
 
+    CopiedRights m_rights;
+    std::optional<FileSystemIdentity> m_writer;
+    FileSystemIdentity m_owner; // whom the copy belongs to where the original has no say
     uid_t m_newUser;
     gid_t m_newGroup;
     mode_t m_mask; // of new files, see umask

@@ -23,6 +23,8 @@ Result<StagedCopy> StagedCopy::make(const ItemPlace &source, const ItemPlace &ta
         return folder.error();
     const Result<void> copied = copyTree({.source = source,
                                           .target = {folder->descriptor(), stagedName, target.path},
+                                          .rights = settings.rights,
+                                          .readAs = settings.readAs,
                                           .stop = settings.stop,
                                           .progress = settings.progress,
                                           .note = settings.note});

@@ -10,6 +10,7 @@
 #include "Platform/posix/TreeCopy.h"
 
 #include <functional>
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -21,6 +22,8 @@ enum class Durability { Durable, Relaxed };
 
 struct StagedCopySettings {
     Durability durability = Durability::Durable;
+    CopiedRights rights = CopiedRights::All;                 // see TreeCopyRequest
+    std::optional<FileSystemIdentity> readAs = {};           // see TreeCopyRequest
     std::stop_token stop = {};                               // see TreeCopyRequest
     std::function<void(const CopyProgress &)> progress = {}; // see TreeCopyRequest
     std::function<void(std::string_view)> note = {};         // see TreeCopyRequest

@@ -4,6 +4,7 @@
 #include "Platform/posix/StagingFolder.h"
 
 #include "Platform/posix/DirectoryReader.h"
+#include "Platform/posix/FileSystemIdentity.h"
 #include "Platform/posix/SystemCalls.h"
 #include "Platform/posix/TreeRemoval.h"
 
@@ -61,7 +62,8 @@ void removeAbandoned(int parent, const std::string &name) {
     if (!folder)
         return;
     const std::optional<struct stat> status = statusOf(folder.get());
-    if (!status || status->st_uid != ::geteuid() || lock(parent, name, folder.get()) != Lock::Taken)
+    if (!status || status->st_uid != FileSystemIdentity::current().user ||
+        lock(parent, name, folder.get()) != Lock::Taken)
         return;
     if (removeTree(parent, (name + std::string(siblingSuffix)).c_str()))
         static_cast<void>(removeTree(parent, name.c_str()));

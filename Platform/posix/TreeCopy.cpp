@@ -27,8 +27,10 @@ namespace {
 
 class TreeCopier final : public TreeVisitor {
 public:
-    TreeCopier(const TreeCopyRequest &request, std::uint64_t bytesInAll)
+    TreeCopier(const TreeCopyRequest &request, const FileSystemIdentity &writer,
+               std::uint64_t bytesInAll)
         : m_request(request)
+        , m_writer(request.readAs ? std::optional(writer) : std::nullopt)
         , m_meter(request.progress, bytesInAll)
         , m_links(request.target.folder, request.target.name + ".links", request.note) {
         for (auto &copier : m_contents)
@@ -41,6 +43,8 @@ public:
     Result<void> visitItem(TreeFolder &folder, const char *name, unsigned char type,
                            unsigned worker) override;
     Result<void> leaveFolder(TreeFolder &folder) override;
+
+    std::optional<FileSystemIdentity> writer() const override { return m_writer; }
 
 private:
     // Where an item is and where its copy goes; the paths are put together only for messages.
@@ -61,6 +65,8 @@ private:
                           unsigned worker);
     Result<bool> linkedAlready(const Item &item, const struct stat &status);
     Result<void> remember(const Item &item, const struct stat &status);
+    UniqueFd createFile(const Item &item, const struct stat &status) const;
+    Result<void> createLink(const Item &item, const char *text);
     Error contentError(FileContentCopier::Outcome outcome, const Item &item) const;
     const CopiedMetadata &metadata(const struct stat &newItem);
     std::string sourcePath(const Item &item) const;
@@ -68,6 +74,7 @@ private:
     std::string targetPath(const TreeFolder &folder) const;
 
     const TreeCopyRequest &m_request;
+    const std::optional<FileSystemIdentity> m_writer; // set when it is not the reader
     CopyProgressMeter m_meter;
     CopyAbilities m_abilities;
     CopiedHardLinks m_links;
@@ -95,11 +102,12 @@ std::string TreeCopier::targetPath(const Item &item) const {
 
 const CopiedMetadata &TreeCopier::metadata(const struct stat &newItem) {
     if (!m_metadata)
-        m_metadata.emplace(newItem, m_request.note);
+        m_metadata.emplace(newItem, m_request.rights, m_writer, m_request.note);
     return *m_metadata;
 }
 
 Result<void> TreeCopier::enterFolder(TreeFolder &folder) {
+    const ActingAs writing(m_writer);
     const int parent = folder.parent ? folder.parent->target.get() : m_request.target.folder;
     const std::string &name = folder.parent ? folder.name : m_request.target.name;
     if (::mkdirat(parent, name.c_str(), S_IRWXU) != 0)
@@ -144,6 +152,7 @@ Result<void> TreeCopier::copyItem(const Item &item, unsigned char type, unsigned
 Result<bool> TreeCopier::linkedAlready(const Item &item, const struct stat &status) {
     if (status.st_nlink < 2 || item.isRoot())
         return false;
+    const ActingAs writing(m_writer);
     switch (m_links.linkExistingCopy(status, item.target, item.targetName)) {
     case CopiedHardLinks::Outcome::Linked:
         m_meter.add(S_ISREG(status.st_mode) ? static_cast<std::uint64_t>(status.st_size) : 0);
@@ -159,9 +168,16 @@ Result<bool> TreeCopier::linkedAlready(const Item &item, const struct stat &stat
 Result<void> TreeCopier::remember(const Item &item, const struct stat &status) {
     if (status.st_nlink < 2 || item.isRoot())
         return {};
+    const ActingAs writing(m_writer);
     if (m_links.remember(status, item.target, item.targetName) == CopiedHardLinks::Outcome::Failed)
         return Error::fromErrno("link", targetPath(item));
     return {};
+}
+
+UniqueFd TreeCopier::createFile(const Item &item, const struct stat &status) const {
+    const ActingAs writing(m_writer);
+    return openAt(item.target, item.targetName, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_NOCTTY,
+                  CopiedMetadata::creationMode(status, m_request.rights));
 }
 
 Result<void> TreeCopier::copyFile(const Item &item, unsigned worker) {
@@ -180,9 +196,7 @@ Result<void> TreeCopier::copyFile(const Item &item, unsigned worker) {
         return linked.error();
     if (*linked)
         return {};
-    const UniqueFd target =
-        openAt(item.target, item.targetName, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_NOCTTY,
-               CopiedMetadata::creationMode(*status));
+    const UniqueFd target = createFile(item, *status);
     if (!target)
         return Error::fromErrno("create", targetPath(item));
     if (Result<void> filled = fillFile(item, source.get(), target.get(), *status, worker); !filled)
@@ -220,6 +234,19 @@ Error TreeCopier::contentError(FileContentCopier::Outcome outcome, const Item &i
     }
 }
 
+Result<void> TreeCopier::createLink(const Item &item, const char *text) {
+    const ActingAs writing(m_writer);
+    if (::symlinkat(text, item.target, item.targetName) != 0)
+        return Error::fromErrno("create", targetPath(item));
+    if (!item.isRoot())
+        return {};
+    const std::optional<struct stat> created = statusAt(item.target, item.targetName);
+    if (!created)
+        return Error::fromErrno("examine", targetPath(item));
+    metadata(*created);
+    return {};
+}
+
 Result<void> TreeCopier::copyLink(const Item &item) {
     const std::optional<struct stat> status = statusAt(item.source, item.sourceName);
     if (!status)
@@ -237,14 +264,8 @@ Result<void> TreeCopier::copyLink(const Item &item) {
     if (static_cast<std::size_t>(size) == text.size())
         return Error::fromErrno("read", sourcePath(item), ENAMETOOLONG);
     text[static_cast<std::size_t>(size)] = '\0';
-    if (::symlinkat(text.data(), item.target, item.targetName) != 0)
-        return Error::fromErrno("create", targetPath(item));
-    if (item.isRoot()) {
-        const std::optional<struct stat> created = statusAt(item.target, item.targetName);
-        if (!created)
-            return Error::fromErrno("examine", targetPath(item));
-        metadata(*created);
-    }
+    if (Result<void> created = createLink(item, text.data()); !created)
+        return created;
     if (Result<void> applied = m_metadata->applyToLink(item.target, item.targetName, *status);
         !applied)
         return withObject(applied.error(), targetPath(item));
@@ -273,6 +294,7 @@ Result<void> TreeCopier::run() {
             !walked)
             return walked;
     }
+    const ActingAs writing(m_writer);
     if (Result<void> removed = m_links.removeNames(); !removed)
         return removed;
     m_meter.finish();
@@ -282,6 +304,10 @@ Result<void> TreeCopier::run() {
 } // namespace
 
 Result<void> copyTree(const TreeCopyRequest &request) {
+    const FileSystemIdentity writer = FileSystemIdentity::current();
+    // Reading is what a forgotten change of identity would fall back to: it fails then, rather than
+    // give away what its reader may not see.
+    const ActingAs reading(request.readAs);
     std::uint64_t bytesInAll = 0;
     if (request.progress) {
         const Result<std::uint64_t> size = treeSize(request.source, request.stop);
@@ -289,7 +315,7 @@ Result<void> copyTree(const TreeCopyRequest &request) {
             return size.error();
         bytesInAll = *size;
     }
-    return TreeCopier(request, bytesInAll).run();
+    return TreeCopier(request, writer, bytesInAll).run();
 }
 
 } // namespace zt

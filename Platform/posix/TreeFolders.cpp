@@ -117,6 +117,7 @@ bool TreeFolders::reopen(TreeFolder &folder) {
         return false;
     }
     if (folder.m_hasTarget) {
+        const ActingAs writing(m_writer);
         folder.target = openAt(folder.parent->target.get(), folder.name.c_str(), flags);
         if (!folder.target)
             return false;

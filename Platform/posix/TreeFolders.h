@@ -5,6 +5,7 @@
 
 // The folders that a walk through a tree has under way, and their descriptors.
 
+#include "Platform/posix/FileSystemIdentity.h"
 #include "Platform/posix/UniqueFd.h"
 
 #include <sys/stat.h>
@@ -12,6 +13,7 @@
 #include <atomic>
 #include <list>
 #include <mutex>
+#include <optional>
 #include <string>
 
 namespace zt {
@@ -45,8 +47,11 @@ private:
 // a tree of any depth is walked with a bounded number of them. Thread: any.
 class TreeFolders {
 public:
-    // Keeps about so many folders open, each with up to two descriptors.
-    explicit TreeFolders(std::size_t limit) : m_limit(limit) {}
+    // Keeps about so many folders open, each with up to two descriptors. Targets are opened again
+    // as `writer`, as the thread if there is none.
+    TreeFolders(std::size_t limit, const std::optional<FileSystemIdentity> &writer)
+        : m_limit(limit)
+        , m_writer(writer) {}
 
     TreeFolders(const TreeFolders &) = delete;
     TreeFolders &operator=(const TreeFolders &) = delete;
@@ -76,6 +81,7 @@ private:
     void markUnused(TreeFolder &folder);
 
     const std::size_t m_limit;
+    const std::optional<FileSystemIdentity> m_writer;
     std::mutex m_mutex;
     std::list<TreeFolder> m_folders;
     std::list<TreeFolder *> m_idle; // open and not in use, the one used last in front

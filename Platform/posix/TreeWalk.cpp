@@ -47,7 +47,8 @@ class TreeWalk {
 public:
     TreeWalk(TreeVisitor &visitor, std::stop_token stop)
         : m_visitor(visitor)
-        , m_stop(std::move(stop)) {}
+        , m_stop(std::move(stop))
+        , m_folders(TreeFolders::suitableLimit(), visitor.writer()) {}
 
     Result<void> run(UniqueFd folder, std::string path);
 
@@ -69,7 +70,7 @@ private:
 
     TreeVisitor &m_visitor;
     const std::stop_token m_stop;
-    TreeFolders m_folders{TreeFolders::suitableLimit()};
+    TreeFolders m_folders;
     TreeTaskQueue m_queue{treeWalkWorkers};
     std::atomic<bool> m_failed = false;
     std::mutex m_errorMutex;

@@ -7,8 +7,10 @@
 // number of descriptors, whatever the depth of the tree and the size of its folders.
 
 #include "Platform/Result.h"
+#include "Platform/posix/FileSystemIdentity.h"
 #include "Platform/posix/TreeFolders.h"
 
+#include <optional>
 #include <stop_token>
 #include <string>
 
@@ -30,6 +32,10 @@ public:
 
     // Comes after everything else of the folder, its subfolders included.
     virtual Result<void> leaveFolder(TreeFolder &folder) = 0;
+
+    // As whom targets are opened again that were closed meanwhile; as the walking threads when
+    // there is no value.
+    virtual std::optional<FileSystemIdentity> writer() const { return std::nullopt; }
 
 protected:
     TreeVisitor() = default;
