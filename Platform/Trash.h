@@ -22,6 +22,13 @@ public:
     // the item is where it was.
     virtual Result<std::string> moveToTrash(const std::string &path) = 0;
 
+    // The same for the item of this name in the open folder; `path` is its absolute path, for the
+    // record and for messages. Unless a Trash can do better, the item is looked up by the path.
+    virtual Result<std::string> moveItemToTrash(int /*folder*/, const std::string & /*name*/,
+                                                const std::string &path) {
+        return moveToTrash(path);
+    }
+
 protected:
     Trash() = default;
     Trash(const Trash &) = default;

@@ -17,6 +17,10 @@
 #include <string_view>
 #include <vector>
 
+namespace zt {
+struct InstallPlan;
+}
+
 enum class InstallResult : std::int32_t {
     Success = 0,
     TrashFailed = 1, // an existing copy could not be moved to the Trash
@@ -43,6 +47,8 @@ struct InstallServices {
     // Of the product's own bytes; see zt::TreeCopyRequest.
     std::function<void(const zt::CopyProgress &)> progress = {};
 
+    zt::CopiedRights rights = zt::CopiedRights::All; // of all that is copied
+
     zt::Durability durability = zt::Durability::Durable;
 
     // Folders that count as always there: one of them is made, for all to read, when it is missing
@@ -63,3 +69,7 @@ struct InstallServices {
 // anything is changed. Each failure is told by one line with its cause and then the fixed lines.
 // Never throws. Thread: any, and any process.
 InstallResult InstallApplication(const InstallPaths &paths, const InstallServices &services);
+
+// The same for what is open already, so that no path is looked up again; the destination's path is
+// canonical. See InstallPreparation.h.
+InstallResult InstallApplication(zt::InstallPlan plan, const InstallServices &services);

@@ -7,6 +7,7 @@
 #include "Platform/posix/SystemCalls.h"
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h> // makedev
 #include <unistd.h>
 
 #include <algorithm>
@@ -52,16 +53,45 @@ Result<std::string> canonicalPath(const std::string &path) {
     return std::string(resolved.get());
 }
 
-// Whether the item is what the canonical path names, or a folder on the way to it. Compared by
-// identity, so that another way to the same folder, as by a second mount, does not deceive.
-bool leadsThrough(const std::string &canonical, const struct stat &item) {
-    for (std::string path = canonical;; path = parentOf(path)) {
-        const std::optional<struct stat> status = statusAt(AT_FDCWD, path.c_str());
-        if (status && isSameItem(*status, item))
-            return true;
-        if (path == "/")
-            return false;
+// What tells a folder from all others, and one way to it from another: a folder may be mounted in
+// several places.
+struct Identity {
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::uint64_t mount = 0;
+
+    bool operator==(const Identity &) const = default;
+};
+
+std::optional<Identity> identityOf(int folder) {
+    struct statx status = {};
+    if (::statx(folder, "", AT_EMPTY_PATH, STATX_INO | STATX_MNT_ID, &status) != 0)
+        return std::nullopt;
+    return Identity{::makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino,
+                    status.stx_mnt_id};
+}
+
+// The folder and all folders above it, found by going up from it: what its path says by now does
+// not matter.
+Result<std::vector<Identity>> wayUp(const OpenFolder &folder) {
+    std::vector<Identity> way;
+    UniqueFd current = openAt(folder.descriptor.get(), ".", O_PATH | O_DIRECTORY);
+    for (;;) {
+        const std::optional<Identity> identity = current ? identityOf(current.get()) : std::nullopt;
+        if (!identity)
+            return Error::fromErrno("examine", folder.path);
+        // Above the topmost folder there is only itself.
+        if (!way.empty() && way.back() == *identity)
+            return way;
+        way.push_back(*identity);
+        current = openAt(current.get(), "..", O_PATH | O_DIRECTORY);
     }
+}
+
+bool leadsThrough(const std::vector<Identity> &way, const struct stat &item) {
+    return std::any_of(way.begin(), way.end(), [&](const Identity &folder) {
+        return folder.device == item.st_dev && folder.number == item.st_ino;
+    });
 }
 
 Error badPath(std::string path, std::string cause) {
@@ -81,28 +111,22 @@ Result<bool> hasEntries(const OpenFolder &folder) {
 }
 
 // The source may be reached through a link: what the link leads to is installed.
-Result<void> planSource(InstallPlan &plan, const std::string &path, const std::string &canonical) {
-    const std::optional<struct stat> status = statusAt(AT_FDCWD, canonical.c_str());
+Result<void> planSource(InstallPlan &plan, const std::string &path) {
+    const Result<std::string> canonical = canonicalPath(path);
+    if (!canonical)
+        return canonical.error();
+    const std::optional<struct stat> status = statusAt(AT_FDCWD, canonical->c_str());
     if (!status)
         return Error::fromErrno("find", path);
     const bool isFolder = S_ISDIR(status->st_mode);
     if (!isFolder && !S_ISREG(status->st_mode))
         return badPath(path, "it is neither a folder nor a file");
-    Result<OpenFolder> folder = openFolder(isFolder ? canonical : parentOf(canonical));
+    Result<OpenFolder> folder = openFolder(isFolder ? *canonical : parentOf(*canonical));
     if (!folder)
         return folder.error();
     plan.source = *std::move(folder);
-    plan.sourceName = isFolder ? "." : lastComponent(canonical);
-    plan.sourcePath = canonical;
-    const Result<bool> hasContent =
-        isFolder ? hasEntries(plan.source) : Result<bool>(status->st_size > 0);
-    if (!hasContent)
-        return hasContent.error();
-    if (!*hasContent)
-        return badPath(path, "it is empty");
-    if (!isFolder &&
-        !openAt(plan.source.descriptor.get(), plan.sourceName.c_str(), O_RDONLY | O_NONBLOCK))
-        return Error::fromErrno("open", path);
+    plan.sourceName = isFolder ? "." : lastComponent(*canonical);
+    plan.sourcePath = *canonical;
     return {};
 }
 
@@ -124,39 +148,77 @@ Result<void> planDestination(InstallPlan &plan, const InstallPaths &paths,
     if (folder.error().code != ENOENT || !canBeMade ||
         statusAt(AT_FDCWD, plan.destinationFolderPath.c_str()))
         return folder.error();
-    const Result<OpenFolder> above = openFolder(parentOf(plan.destinationFolderPath));
+    Result<OpenFolder> above = openFolder(parentOf(plan.destinationFolderPath));
     if (!above)
         return above.error();
+    plan.folderAbove = *std::move(above);
     return {};
 }
 
-// Where the destination is, or will be: the canonical path of what exists of it.
-Result<std::string> canonicalDestinationFolder(const InstallPlan &plan) {
-    return canonicalPath(plan.destinationFolder.descriptor ? plan.destinationFolderPath
-                                                           : parentOf(plan.destinationFolderPath));
+Result<void> checkHasContent(const InstallPlan &plan, const struct stat &source) {
+    const ActingAs reading(plan.readAs);
+    const bool isFolder = S_ISDIR(source.st_mode);
+    const Result<bool> hasContent =
+        isFolder ? hasEntries(plan.source) : Result<bool>(source.st_size > 0);
+    if (!hasContent)
+        return hasContent.error();
+    if (!*hasContent)
+        return badPath(plan.sourcePath, "it is empty");
+    if (!isFolder &&
+        !openAt(plan.source.descriptor.get(), plan.sourceName.c_str(), O_RDONLY | O_NONBLOCK))
+        return Error::fromErrno("open", plan.sourcePath);
+    return {};
+}
+
+// The folder that the destination lies in, or will lie in as soon as that is made.
+const OpenFolder &lowestFolder(const InstallPlan &plan) {
+    return plan.destinationFolder.descriptor ? plan.destinationFolder : plan.folderAbove;
 }
 
 // Whether anything is in the way of keeping source and destination apart.
-Result<void> checkApart(const InstallPlan &plan, const std::string &canonicalSource) {
-    const Result<std::string> folder = canonicalDestinationFolder(plan);
-    if (!folder)
-        return folder.error();
-    const std::optional<struct stat> source = statusAt(AT_FDCWD, canonicalSource.c_str());
-    if (!source)
-        return Error::fromErrno("find", canonicalSource);
-    const std::string destination = plan.destinationFolderPath + '/' + plan.destinationName;
-    if (leadsThrough(*folder, *source))
-        return badPath(destination, "it lies within the source");
+Result<void> checkApart(const InstallPlan &plan, const struct stat &source) {
+    const Result<std::vector<Identity>> toDestination = wayUp(lowestFolder(plan));
+    if (!toDestination)
+        return toDestination.error();
+    if (leadsThrough(*toDestination, source))
+        return badPath(plan.destinationPath(), "it lies within the source");
     if (!plan.destinationFolder.descriptor)
         return {};
     const std::optional<struct stat> existing =
         statusAt(plan.destinationFolder.descriptor.get(), plan.destinationName.c_str());
-    if (!existing)
-        return errno == ENOENT ? Result<void>() : Error::fromErrno("examine", destination);
-    if (isSameItem(*existing, *source))
-        return badPath(destination, "it is the source itself");
-    if (leadsThrough(canonicalSource, *existing))
-        return badPath(destination, "the source lies within it");
+    if (!existing) {
+        return errno == ENOENT ? Result<void>()
+                               : Error::fromErrno("examine", plan.destinationPath());
+    }
+    if (isSameItem(*existing, source))
+        return badPath(plan.destinationPath(), "it is the source itself");
+    const Result<std::vector<Identity>> toSource = wayUp(plan.source);
+    if (!toSource)
+        return toSource.error();
+    if (leadsThrough(*toSource, *existing))
+        return badPath(plan.destinationPath(), "the source lies within it");
+    return {};
+}
+
+// Whether an item of the wrapper would take the place of what is still to be copied.
+Result<void> checkItemsApart(const InstallPlan &plan, const std::vector<std::string> &names) {
+    const std::optional<struct stat> source =
+        statusAt(plan.source.descriptor.get(), plan.sourceName.c_str());
+    if (!source)
+        return Error::fromErrno("find", plan.sourcePath);
+    const Result<std::vector<Identity>> toSource = wayUp(plan.source);
+    if (!toSource)
+        return toSource.error();
+    const Result<std::vector<Identity>> toWrapper = wayUp(*plan.wrapper);
+    if (!toWrapper)
+        return toWrapper.error();
+    for (const std::string &name : names) {
+        const ItemPlace item = plan.destinationFolder.item(name);
+        const std::optional<struct stat> existing = statusAt(item.folder, name.c_str());
+        if (existing && (leadsThrough(*toWrapper, *existing) || isSameItem(*source, *existing) ||
+                         leadsThrough(*toSource, *existing)))
+            return badPath(item.path, "it holds what is to be copied");
+    }
     return {};
 }
 
@@ -164,6 +226,11 @@ Result<void> checkApart(const InstallPlan &plan, const std::string &canonicalSou
 
 ItemPlace OpenFolder::item(const std::string &name) const {
     return {descriptor.get(), name, path == "/" ? '/' + name : path + '/' + name};
+}
+
+std::string InstallPlan::destinationPath() const {
+    return destinationFolderPath == "/" ? '/' + destinationName
+                                        : destinationFolderPath + '/' + destinationName;
 }
 
 ItemPlace InstallPlan::sourcePlace() const {
@@ -177,7 +244,9 @@ Result<OpenFolder> openFolder(const std::string &path) {
     return OpenFolder{path, std::move(folder)};
 }
 
-Result<std::vector<std::string>> namesInFolder(const OpenFolder &folder) {
+Result<std::vector<std::string>> namesInWrapper(const InstallPlan &plan) {
+    const ActingAs reading(plan.readAs);
+    const OpenFolder &folder = *plan.wrapper;
     const UniqueFd listing = openAt(folder.descriptor.get(), ".", O_RDONLY | O_DIRECTORY);
     if (!listing)
         return Error::fromErrno("open", folder.path);
@@ -191,6 +260,31 @@ Result<std::vector<std::string>> namesInFolder(const OpenFolder &folder) {
     return names;
 }
 
+Result<void> checkInstallation(const InstallPlan &plan) {
+    const std::optional<struct stat> source =
+        statusAt(plan.source.descriptor.get(), plan.sourceName.c_str());
+    if (!source)
+        return Error::fromErrno("find", plan.sourcePath);
+    if (Result<void> hasContent = checkHasContent(plan, *source); !hasContent)
+        return hasContent;
+    return checkApart(plan, *source);
+}
+
+Result<void> checkWrapper(const InstallPlan &plan) {
+    const std::optional<struct stat> status = statusOf(plan.wrapper->descriptor.get());
+    if (!status)
+        return Error::fromErrno("examine", plan.wrapper->path);
+    const Result<std::vector<Identity>> toDestination = wayUp(lowestFolder(plan));
+    if (!toDestination)
+        return toDestination.error();
+    if (leadsThrough(*toDestination, *status))
+        return badPath(plan.wrapper->path, "the destination lies within it");
+    const Result<std::vector<std::string>> names = namesInWrapper(plan);
+    if (!names)
+        return names.error();
+    return plan.destinationFolder.descriptor ? checkItemsApart(plan, *names) : Result<void>();
+}
+
 Result<InstallPlan> planInstallation(const InstallPaths &paths,
                                      const std::vector<std::string> &guaranteedFolders) {
     if (paths.source.empty())
@@ -198,15 +292,12 @@ Result<InstallPlan> planInstallation(const InstallPaths &paths,
     if (paths.destination.empty())
         return badPath("the destination", "its path is empty");
     InstallPlan plan;
-    const Result<std::string> source = canonicalPath(paths.source);
-    if (!source)
-        return source.error();
-    if (Result<void> planned = planSource(plan, paths.source, *source); !planned)
+    if (Result<void> planned = planSource(plan, paths.source); !planned)
         return planned.error();
     if (Result<void> planned = planDestination(plan, paths, guaranteedFolders); !planned)
         return planned.error();
-    if (Result<void> apart = checkApart(plan, *source); !apart)
-        return apart.error();
+    if (Result<void> checked = checkInstallation(plan); !checked)
+        return checked.error();
     return plan;
 }
 
@@ -217,26 +308,8 @@ Result<void> planWrapper(InstallPlan &plan, const std::string &wrapper) {
     Result<OpenFolder> folder = openFolder(*canonical);
     if (!folder)
         return folder.error();
-    const std::optional<struct stat> status = statusOf(folder->descriptor.get());
-    const Result<std::string> target = canonicalDestinationFolder(plan);
-    if (!status || !target)
-        return Error::fromErrno("examine", wrapper);
-    if (leadsThrough(*target, *status))
-        return badPath(wrapper, "the destination lies within it");
-    const Result<std::vector<std::string>> names = namesInFolder(*folder);
-    if (!names)
-        return names.error();
     plan.wrapper = *std::move(folder);
-    if (!plan.destinationFolder.descriptor)
-        return {};
-    for (const std::string &name : *names) {
-        const ItemPlace item = plan.destinationFolder.item(name);
-        const std::optional<struct stat> existing = statusAt(item.folder, name.c_str());
-        if (existing &&
-            (leadsThrough(*canonical, *existing) || leadsThrough(plan.sourcePath, *existing)))
-            return badPath(item.path, "it holds what is to be copied");
-    }
-    return {};
+    return checkWrapper(plan);
 }
 
 } // namespace zt
