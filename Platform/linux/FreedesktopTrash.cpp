@@ -4,9 +4,8 @@
 #include "Platform/linux/FreedesktopTrash.h"
 
 #include "Platform/linux/FreedesktopTrashFolder.h"
-#include "Platform/posix/StagedCopy.h"
+#include "Platform/posix/StagingFolder.h"
 #include "Platform/posix/SystemCalls.h"
-#include "Platform/posix/TreeRemoval.h"
 
 #include <pwd.h>
 #include <sys/stat.h>
@@ -108,19 +107,26 @@ Result<FreedesktopTrash::Item> FreedesktopTrash::findItem(const std::string &pat
     if (path.empty() || path[0] != '/' || end == std::string::npos)
         return Error{"move to the Trash", path, "not the absolute path of an item", EINVAL};
     const std::string trimmed = path.substr(0, end + 1);
-    Item item;
-    item.name = trimmed.substr(trimmed.rfind('/') + 1);
-    if (item.name == "." || item.name == "..")
+    std::string name = trimmed.substr(trimmed.rfind('/') + 1);
+    if (name == "." || name == "..")
         return Error{"move to the Trash", path, "not the name of an item", EINVAL};
     const std::optional<std::string> folder = canonicalPath(parentOf(trimmed));
     if (!folder)
         return Error::fromErrno("find", parentOf(trimmed));
-    item.folder = *folder;
-    item.folderDescriptor = openAt(AT_FDCWD, item.folder.c_str(), O_PATH | O_DIRECTORY);
-    if (!item.folderDescriptor)
-        return Error::fromErrno("open", item.folder);
+    UniqueFd descriptor = openAt(AT_FDCWD, folder->c_str(), O_PATH | O_DIRECTORY);
+    if (!descriptor)
+        return Error::fromErrno("open", *folder);
+    return itemInFolder(std::move(descriptor), std::move(name), *folder);
+}
+
+Result<FreedesktopTrash::Item> FreedesktopTrash::itemInFolder(UniqueFd folder, std::string name,
+                                                              std::string folderPath) const {
+    Item item;
+    item.folder = std::move(folderPath);
+    item.name = std::move(name);
+    item.folderDescriptor = std::move(folder);
     if (!statusAt(item.folderDescriptor.get(), item.name.c_str()))
-        return Error::fromErrno("find", path);
+        return Error::fromErrno("find", item.path());
     Result<std::string> top = m_roots.topDirectoryOf(item.folder);
     if (!top)
         return top.error();
@@ -167,7 +173,7 @@ Result<std::string> FreedesktopTrash::moveInto(const TrashFolder &trash, const I
             return newName;
         if (moveWithoutReplacing(item.folderDescriptor.get(), item.name.c_str(), trash.files.get(),
                                  newName->c_str()))
-            return trash.path + "/files/" + *newName;
+            return trash.pathOf(*newName);
         const int code = errno;
         trash.removeRecord(*newName);
         // A file without a record holds the name: another one is tried.
@@ -185,43 +191,45 @@ Result<std::string> FreedesktopTrash::copyToHomeTrash(const Item &item) const {
     const Result<TrashFolder> trash = openHomeTrash(m_roots.dataHome);
     if (!trash)
         return trash.error();
-    StagingFolder::sweep(trash->folder.get());
     const ItemPlace origin = {item.folderDescriptor.get(), item.name, item.path()};
-    Result<StagedCopy> copy = StagedCopy::make(
-        origin, {trash->folder.get(), item.name, trash->path + '/' + item.name}, {});
-    if (!copy)
-        return copy.error();
-    for (unsigned attempt = 1;; ++attempt) {
-        Result<std::string> newName = trash->writeRecord(item.name, item.path(), attempt);
-        if (!newName)
-            return newName;
-        const std::string newPath = trash->path + "/files/" + *newName;
-        const Result<void> placed = copy->place({trash->files.get(), *newName, newPath});
-        if (placed &&
-            moveWithoutReplacing(origin.folder, origin.name.c_str(), leaving->descriptor(), "item"))
-            return newPath;
-        const Error error =
-            placed ? Error::fromErrno("move to the Trash", item.path()) : placed.error();
-        if (placed)
-            static_cast<void>(removeTree(trash->files.get(), newName->c_str()));
-        trash->removeRecord(*newName);
-        if (placed || error.code != EEXIST)
-            return error;
-    }
+    const Result<std::string> newName = trash->addCopy(origin, item.path());
+    if (!newName)
+        return newName;
+    if (moveWithoutReplacing(origin.folder, origin.name.c_str(), leaving->descriptor(), "item"))
+        return trash->pathOf(*newName);
+    const Error error = Error::fromErrno("move to the Trash", item.path());
+    trash->removeCopy(*newName);
+    return error;
+}
+
+Result<std::string> FreedesktopTrash::moveItem(const Item &item) const {
+    const Result<TrashFolder> trash = openTrashOnVolumeOf(item);
+    Result<std::string> moved = trash ? moveInto(*trash, item) : Result<std::string>(trash.error());
+    // Either the volume has no place for a Trash, or what looks like one volume is not.
+    const bool needsCopy = trash ? !moved && moved.error().code == EXDEV : !isOnHomeVolume(item);
+    if (!needsCopy)
+        return moved;
+    return copyToHomeTrash(item);
 }
 
 Result<std::string> FreedesktopTrash::moveToTrash(const std::string &path) {
     const Result<Item> item = findItem(path);
-    if (!item)
-        return item.error();
-    const Result<TrashFolder> trash = openTrashOnVolumeOf(*item);
-    Result<std::string> moved =
-        trash ? moveInto(*trash, *item) : Result<std::string>(trash.error());
-    // Either the volume has no place for a Trash, or what looks like one volume is not.
-    const bool needsCopy = trash ? !moved && moved.error().code == EXDEV : !isOnHomeVolume(*item);
-    if (!needsCopy)
-        return moved;
-    return copyToHomeTrash(*item);
+    return item ? moveItem(*item) : item.error();
+}
+
+Result<std::string> FreedesktopTrash::moveItemToTrash(int folder, const std::string &name,
+                                                      const std::string &path) {
+    UniqueFd descriptor = openAt(folder, ".", O_PATH | O_DIRECTORY);
+    if (!descriptor)
+        return Error::fromErrno("open", parentOf(path));
+    // The record tells the true origin, unless the path has come to lead elsewhere.
+    const std::string given = parentOf(path);
+    const std::string canonical = canonicalPath(given).value_or(given);
+    const std::optional<struct stat> opened = statusOf(descriptor.get());
+    const std::optional<struct stat> named = statusAt(AT_FDCWD, canonical.c_str());
+    const bool isSame = opened && named && isSameItem(*opened, *named);
+    const Result<Item> item = itemInFolder(std::move(descriptor), name, isSame ? canonical : given);
+    return item ? moveItem(*item) : item.error();
 }
 
 } // namespace zt

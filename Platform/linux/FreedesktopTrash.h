@@ -7,6 +7,7 @@
 // folder in the user's data folder, and the like on each further volume.
 
 #include "Platform/Trash.h"
+#include "Platform/posix/UniqueFd.h"
 
 #include <sys/types.h>
 
@@ -40,10 +41,15 @@ public:
     // Trash, and goes once the copy is whole and safe.
     Result<std::string> moveToTrash(const std::string &path) override;
 
+    Result<std::string> moveItemToTrash(int folder, const std::string &name,
+                                        const std::string &path) override;
+
 private:
     struct Item;
 
     Result<Item> findItem(const std::string &path) const;
+    Result<Item> itemInFolder(UniqueFd folder, std::string name, std::string folderPath) const;
+    Result<std::string> moveItem(const Item &item) const;
     Result<TrashFolder> openTrashOnVolumeOf(const Item &item) const;
     static Result<std::string> moveInto(const TrashFolder &trash, const Item &item);
     Result<std::string> copyToHomeTrash(const Item &item) const;

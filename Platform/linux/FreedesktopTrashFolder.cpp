@@ -4,7 +4,9 @@
 #include "Platform/linux/FreedesktopTrashFolder.h"
 
 #include "Platform/linux/FreedesktopTrashRecord.h"
+#include "Platform/posix/StagedCopy.h"
 #include "Platform/posix/SystemCalls.h"
+#include "Platform/posix/TreeRemoval.h"
 
 #include <sys/stat.h>
 
@@ -38,6 +40,16 @@ Result<void> makeFolders(const std::string &path) {
     }
 }
 
+// No value when the open folder is the user's.
+std::optional<Error> reasonNotToUse(const UniqueFd &folder, const std::string &path, uid_t user) {
+    const std::optional<struct stat> status = folder ? statusOf(folder.get()) : std::nullopt;
+    if (!status)
+        return Error::fromErrno("open", path);
+    if (status->st_uid != user)
+        return Error{"use", path, "it belongs to another user", EPERM};
+    return std::nullopt;
+}
+
 Result<TrashFolder> openFoldersOfTrash(UniqueFd trash, std::string path, std::string topDirectory) {
     UniqueFd files = makeAndOpen(trash.get(), "files");
     if (!files)
@@ -52,13 +64,8 @@ Result<TrashFolder> openFoldersOfTrash(UniqueFd trash, std::string path, std::st
 Result<TrashFolder> openOwnTrash(int parent, const std::string &name, std::string path,
                                  const std::string &topDirectory, uid_t user) {
     UniqueFd trash = makeAndOpen(parent, name.c_str());
-    if (!trash)
-        return Error::fromErrno("open", path);
-    const std::optional<struct stat> status = statusOf(trash.get());
-    if (!status)
-        return Error::fromErrno("open", path);
-    if (status->st_uid != user)
-        return Error{"use", path, "it belongs to another user", EPERM};
+    if (std::optional<Error> reason = reasonNotToUse(trash, path, user))
+        return *std::move(reason);
     return openFoldersOfTrash(std::move(trash), std::move(path), topDirectory);
 }
 
@@ -94,6 +101,32 @@ void TrashFolder::removeRecord(const std::string &nameInTrash) const {
     static_cast<void>(::unlinkat(records.get(), (nameInTrash + recordSuffix).c_str(), 0));
 }
 
+Result<std::string> TrashFolder::addCopy(const ItemPlace &item,
+                                         const std::string &originalPath) const {
+    StagingFolder::sweep(folder.get());
+    Result<StagedCopy> copy =
+        StagedCopy::make(item, {folder.get(), item.name, path + '/' + item.name}, {});
+    if (!copy)
+        return copy.error();
+    for (unsigned attempt = 1;; ++attempt) {
+        Result<std::string> newName = writeRecord(item.name, originalPath, attempt);
+        if (!newName)
+            return newName;
+        const Result<void> placed = copy->place({files.get(), *newName, pathOf(*newName)});
+        if (placed)
+            return newName;
+        removeRecord(*newName);
+        // A file without a record holds the name: another one is tried.
+        if (placed.error().code != EEXIST)
+            return placed.error();
+    }
+}
+
+void TrashFolder::removeCopy(const std::string &nameInTrash) const {
+    static_cast<void>(removeTree(files.get(), nameInTrash.c_str()));
+    removeRecord(nameInTrash);
+}
+
 Result<TrashFolder> openHomeTrash(const std::string &dataHome) {
     std::string path = joined(dataHome, "Trash");
     if (Result<void> made = makeFolders(path); !made)
@@ -102,6 +135,28 @@ Result<TrashFolder> openHomeTrash(const std::string &dataHome) {
     if (!trash)
         return Error::fromErrno("open", path);
     return openFoldersOfTrash(std::move(trash), std::move(path), {});
+}
+
+Result<TrashFolder> openOwnHomeTrash(const std::string &homeFolder, uid_t user) {
+    // The way to the home folder is the administrator's; the user has no say in it.
+    UniqueFd folder = openAt(AT_FDCWD, homeFolder.c_str(), folderFlags);
+    std::string path = homeFolder;
+    for (const char *name : {".local", "share", "Trash"}) {
+        if (std::optional<Error> reason = reasonNotToUse(folder, path, user))
+            return *std::move(reason);
+        folder = makeAndOpen(folder.get(), name);
+        path = joined(path, name);
+    }
+    if (std::optional<Error> reason = reasonNotToUse(folder, path, user))
+        return *std::move(reason);
+    Result<TrashFolder> trash = openFoldersOfTrash(std::move(folder), std::move(path), {});
+    if (!trash)
+        return trash;
+    for (const UniqueFd *part : {&trash->files, &trash->records}) {
+        if (std::optional<Error> reason = reasonNotToUse(*part, trash->path, user))
+            return *std::move(reason);
+    }
+    return trash;
 }
 
 Result<TrashFolder> openSharedVolumeTrash(const std::string &topDirectory, uid_t user) {

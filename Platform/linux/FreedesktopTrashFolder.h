@@ -6,6 +6,7 @@
 // The folders in which trashed items and their records are kept.
 
 #include "Platform/Result.h"
+#include "Platform/posix/TreeCopy.h"
 #include "Platform/posix/UniqueFd.h"
 
 #include <sys/types.h>
@@ -30,12 +31,28 @@ struct TrashFolder {
 
     // Takes back the record of an item that did not come.
     void removeRecord(const std::string &nameInTrash) const;
+
+    // Copies the item into the Trash, with a record that tells the given path. The item itself
+    // stays; answers the copy's name in the Trash. The copy is whole and on its medium then.
+    Result<std::string> addCopy(const ItemPlace &item, const std::string &originalPath) const;
+
+    // Takes back a copy with its record.
+    void removeCopy(const std::string &nameInTrash) const;
+
+    std::string pathOf(const std::string &nameInTrash) const {
+        return path + "/files/" + nameInTrash;
+    }
 };
 
 // Each of these makes what is missing, for the user alone, and opens it. Thread: any.
 
 // "Trash" in the user's data folder, which is made with its parents.
 Result<TrashFolder> openHomeTrash(const std::string &dataHome);
+
+// The same in the data folder that a user has by default in his home folder. To be called while
+// acting as that user: it follows no link within the home folder, and fails when anything on the
+// way belongs to somebody else, for somebody else decides then where it leads.
+Result<TrashFolder> openOwnHomeTrash(const std::string &homeFolder, uid_t user);
 
 // "$top/.Trash/$user", the place that an administrator has prepared for all users. Fails unless
 // .Trash is a real folder with the sticky bit, for anyone could put another there otherwise.
