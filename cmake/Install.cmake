@@ -1,11 +1,23 @@
-# What "cmake --install" puts in place: the installer's bundle, the utility library with its headers,
-# and the files through which find_package(ZTStuff) finds it.
+# What "cmake --install" puts in place: the installer's bundle, what the password dialog says for it,
+# the utility library with its headers, and the files through which find_package(ZTStuff) finds it.
 
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY "${PROJECT_BINARY_DIR}/VelmoraInstaller.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora-installer
     USE_SOURCE_PERMISSIONS)
+
+# What the password dialog says. It names the tool by its path, which is known only now; an
+# administrator's system finds it when the prefix is /usr.
+set(policyName com.velmora.VelmoraInstaller.policy)
+set(trainInPrefix
+    ${CMAKE_INSTALL_LIBDIR}/velmora-installer/VelmoraInstaller.app/Contents/Resources/train)
+install(CODE "
+    set(trainPath \"\${CMAKE_INSTALL_PREFIX}/${trainInPrefix}\")
+    configure_file(\"${PROJECT_SOURCE_DIR}/Installer/Resources/${policyName}.in\"
+        \"${PROJECT_BINARY_DIR}/${policyName}\" @ONLY)")
+install(FILES "${PROJECT_BINARY_DIR}/${policyName}"
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/polkit-1/actions)
 
 set(headerFolder ${CMAKE_INSTALL_INCLUDEDIR}/ztstuff)
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/ZTStuff)

@@ -25,6 +25,9 @@ namespace {
 
 constexpr const char *worldBefore = "/mnt"; // where the folder of one test is made
 
+// So many moments are enough on any machine.
+constexpr int mostLooks = 60'000;
+
 void waitAMoment() {
     const timespec moment = {0, 1'000'000};
     ::nanosleep(&moment, nullptr);
@@ -91,7 +94,9 @@ std::string RunningTrain::log() const {
 }
 
 bool RunningTrain::waitForLog(const std::string &text) {
-    while (log().find(text) == std::string::npos) {
+    for (int look = 0; log().find(text) == std::string::npos; ++look) {
+        if (look == mostLooks)
+            return false;
         if (::waitpid(m_pid, &m_status, WNOHANG) == m_pid) {
             m_hasEnded = true;
             return false;

@@ -46,7 +46,7 @@ public:
 
     std::string log() const;
 
-    // Waits until the log has the text; false when the tool ended before that.
+    // Waits until the log has the text; false when the tool ended before that, or never says so.
     bool waitForLog(const std::string &text);
 
     TrainEnd wait();

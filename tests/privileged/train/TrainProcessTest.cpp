@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -131,6 +132,24 @@ TEST_F(TrainProcessTest, aHostileEnvironmentHasNoSay) {
     EXPECT_EQ(describeTree(evil), before);
 }
 
+TEST_F(TrainProcessTest, theTimeIsTheMachinesAndNotTheAskers) {
+    const auto now = [] {
+        const std::time_t time = std::time(nullptr);
+        std::array<char, 32> text = {};
+        std::tm local = {};
+        std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", ::localtime_r(&time, &local));
+        return std::string(text.data());
+    };
+    makeProduct("Applications/Product.app", "old");
+    const std::string before = now();
+    ASSERT_EQ(train({{m_source, m_destination}, {"PKEXEC_UID=4242", "TZ=XXX-13:37"}}).status, 0);
+    const std::string after = now();
+    const std::string record = contentOf(m_trashPath + "/info/Product.app.trashinfo");
+    const std::string date = record.substr(record.find("DeletionDate=") + 13, before.size());
+    EXPECT_LE(before, date);
+    EXPECT_LE(date, after);
+}
+
 // Each way of closing some of the standard streams.
 class ClosedStreamsTest : public TrainProcessTest, public ::testing::WithParamInterface<int> {};
 
@@ -206,8 +225,9 @@ TEST_F(TrainProcessTest, whatAProcessInheritsIsSetAnew) {
     ASSERT_TRUE(running.waitForLog(waiting)) << running.log();
     const std::string process = "/proc/" + std::to_string(running.pid());
     EXPECT_EQ(statusLine(running.pid(), "Umask"), "0022");
-    EXPECT_EQ(std::stoull(statusLine(running.pid(), "SigBlk"), nullptr, 16), 0U);
-    EXPECT_EQ(std::stoull(statusLine(running.pid(), "SigIgn"), nullptr, 16),
+    // Otherwise nothing would end it below.
+    ASSERT_EQ(std::stoull(statusLine(running.pid(), "SigBlk"), nullptr, 16), 0U);
+    ASSERT_EQ(std::stoull(statusLine(running.pid(), "SigIgn"), nullptr, 16),
               1ULL << (SIGPIPE - 1) | 1ULL << (SIGXFSZ - 1));
     EXPECT_EQ(std::filesystem::read_symlink(process + "/cwd"), "/");
     rlimit limit = {};
