@@ -59,7 +59,8 @@ public:
     // Runs the command for which the right was given. Answers one of AuthorizationStatus.
     virtual std::int32_t executeWithPrivileges(const PrivilegedCommand &command) = 0;
 
-    // Waits for the program's end. What it writes on its standard error becomes lines of the log.
+    // Waits for the program's end. Meanwhile what it writes on its standard error comes out on that
+    // of this program.
     virtual ChildEnd waitForChild() = 0;
 
 protected:

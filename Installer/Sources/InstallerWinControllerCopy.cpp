@@ -134,7 +134,7 @@ void InstallerWinController::handOver(const std::stop_token &stop) {
     m_platform.clock.sleepFor(500ms);
     ZTLog("registered app: %d", workspace.registerApplication(destination));
     m_platform.clock.sleepFor(100ms);
-    if (!hasIcon(destination, stop)) {
+    if (!stop.stop_requested() && !hasIcon(destination, stop)) {
         ZTLog("did not get icon");
         m_platform.clock.sleepFor(1s);
         ZTLog("retry; %@", hasIcon(destination, stop) ? u"succeeded"_s : u"failed"_s);

@@ -8,6 +8,7 @@
 #include "Installer/train/ExitStatus.h"
 #include "Installer/train/MachineLock.h"
 #include "Installer/train/PrivilegedPlan.h"
+#include "Installer/train/SystemRegistration.h"
 #include "Installer/train/TrainArguments.h"
 #include "Platform/posix/LogLine.h"
 #include "Platform/posix/SystemCalls.h"
@@ -54,6 +55,19 @@ zt::Result<zt::Asker> findAskerOf(const std::optional<std::string> &pkexecUser) 
     return zt::findAsker(*user);
 }
 
+// Lets all users' desktops know the product. Whatever fails here, it is in its place.
+void registerProduct(const std::string &destination) {
+    const zt::Result<std::string> bytes = zt::readPreparedRecord(STDIN_FILENO);
+    if (bytes && bytes->empty())
+        return;
+    const zt::Result<zt::ApplicationRecord> record =
+        bytes ? zt::checkPreparedRecord(*bytes, destination) : bytes.error();
+    const zt::Result<void> registered =
+        record ? zt::registerForAllUsers(*record, zt::writeLogLine) : record.error();
+    zt::writeLogLine(registered ? "Registered " + destination + " for all users"
+                                : registered.error().text());
+}
+
 ExitStatus install(const InstallPaths &paths, zt::Asker asker, const std::string &homeOfRoot) {
     const zt::Result<zt::MachineLock> lock =
         zt::MachineLock::take([] { zt::writeLogLine("Waiting for another installation to end"); });
@@ -67,7 +81,10 @@ ExitStatus install(const InstallPaths &paths, zt::Asker asker, const std::string
         zt::planPrivilegedInstallation(paths, reader, services.guaranteedFolders);
     if (!plan)
         return endWith(ExitStatus::Refused, plan.error());
-    return static_cast<ExitStatus>(InstallApplication(*std::move(plan), services));
+    const InstallResult result = InstallApplication(*std::move(plan), services);
+    if (result == InstallResult::Success)
+        registerProduct(paths.destination);
+    return static_cast<ExitStatus>(result);
 }
 
 ExitStatus run(const std::vector<std::string> &arguments) {

@@ -6,12 +6,15 @@
 #include "Platform/Log.h"
 #include "Platform/linux/PolkitRules.h"
 #include "Platform/linux/ToolToRun.h"
+#include "Platform/posix/SystemCalls.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStandardPaths>
+
+#include <unistd.h> // STDERR_FILENO
 
 #include <optional>
 
@@ -54,13 +57,12 @@ private:
     bool awaitStart(const std::stop_token &stop);
     std::int32_t refusal();
     std::int32_t fail(std::int32_t status, const QByteArray &reason) const;
-    void forwardLog(bool atEnd);
+    void forwardLog();
 
     Log &m_log;
     const QString m_pkexec;
     std::optional<ToolToRun> m_tool;
     QProcess m_process;
-    QByteArray m_errorOutput;
     bool m_hasStarted = false; // the tool itself
 };
 
@@ -151,23 +153,19 @@ PolkitAuthorizationReference::executeWithPrivileges(const PrivilegedCommand & /*
     return m_hasStarted ? AuthorizationStatus::success : AuthorizationStatus::toolExecuteFailure;
 }
 
-void PolkitAuthorizationReference::forwardLog(bool atEnd) {
-    m_errorOutput += m_process.readAllStandardError();
-    for (qsizetype end = m_errorOutput.indexOf('\n'); end >= 0; end = m_errorOutput.indexOf('\n')) {
-        m_log.writeLine(m_errorOutput.first(end).toStdString());
-        m_errorOutput.remove(0, end + 1);
-    }
-    if (atEnd && !m_errorOutput.isEmpty())
-        m_log.writeLine(m_errorOutput.toStdString());
+// The tool writes lines like this program's own, with its own name and number.
+void PolkitAuthorizationReference::forwardLog() {
+    const QByteArray lines = m_process.readAllStandardError();
+    static_cast<void>(writeFully(STDERR_FILENO, {lines.data(), std::size_t(lines.size())}));
 }
 
 ChildEnd PolkitAuthorizationReference::waitForChild() {
     m_process.setReadChannel(QProcess::StandardError);
     while (m_process.state() != QProcess::NotRunning) {
         m_process.waitForReadyRead(pollInterval);
-        forwardLog(false);
+        forwardLog();
     }
-    forwardLog(true);
+    forwardLog();
     if (m_process.exitStatus() == QProcess::CrashExit) {
         m_log.writeLine("the tool crashed (signal " + std::to_string(m_process.exitCode()) + ')');
         return {.kind = ChildEnd::Kind::Signaled, .status = m_process.exitCode()};

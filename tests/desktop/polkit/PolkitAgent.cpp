@@ -16,6 +16,12 @@ namespace {
 const QString administrator = u"berta"_s;
 const QString cancelled = u"org.freedesktop.PolicyKit1.Error.Cancelled"_s;
 
+} // namespace
+
+// Found by the type of what they write and read, which is in no namespace.
+QDBusArgument &operator<<(QDBusArgument &argument, const PolkitIdentity &identity);
+const QDBusArgument &operator>>(const QDBusArgument &argument, PolkitIdentity &identity);
+
 QDBusArgument &operator<<(QDBusArgument &argument, const PolkitIdentity &identity) {
     argument.beginStructure();
     argument << identity.kind << identity.details;
@@ -29,8 +35,6 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, PolkitIdentity &i
     argument.endStructure();
     return argument;
 }
-
-} // namespace
 
 bool PolkitAgent::registerFor(qint64 pid) {
     qDBusRegisterMetaType<PolkitIdentity>();
@@ -63,8 +67,8 @@ void PolkitAgent::typePassword(const QString &user, const QString &cookie) const
 }
 
 void PolkitAgent::BeginAuthentication(const QString & /*action*/, const QString &text,
-                                      const QString & /*icon*/,
-                                      const QMap<QString, QString> &more, const QString &cookie,
+                                      const QString & /*icon*/, const QMap<QString, QString> &more,
+                                      const QString &cookie,
                                       const QList<PolkitIdentity> &identities,
                                       const QDBusMessage &request) {
     ++requests;

@@ -41,7 +41,7 @@ public:
     QString message; // of the last request
     QVariantMap details;
 
-public slots:
+public Q_SLOTS:
     void BeginAuthentication(const QString &action, const QString &text, const QString &icon,
                              const QMap<QString, QString> &more, const QString &cookie,
                              const QList<PolkitIdentity> &identities, const QDBusMessage &request);
