@@ -78,11 +78,10 @@ std::optional<std::int32_t> launchBundle(const Bundle &bundle, const QString &wo
     ArgumentList variables(environment.toStringList());
     GPid pid = 0;
     // Standard input comes from nowhere and all other descriptors are closed.
-    const bool isStarted =
-        g_spawn_async(QFile::encodeName(workingFolder).constData(), arguments.get(),
-                      variables.get(),
-                      GSpawnFlags(G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL),
-                      beginSession, nullptr, &pid, nullptr);
+    const bool isStarted = g_spawn_async(
+        QFile::encodeName(workingFolder).constData(), arguments.get(), variables.get(),
+        GSpawnFlags(G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL), beginSession, nullptr,
+        &pid, nullptr);
     return isStarted ? std::optional<std::int32_t>(pid) : std::nullopt;
 }
 
