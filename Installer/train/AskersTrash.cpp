@@ -36,8 +36,7 @@ Result<std::string> AskersTrash::giveCopyToAsker(const Item &item) const {
     const Result<TrashFolder> trash = openOwnHomeTrash(m_asker.homeFolder, m_asker.identity.user);
     if (!trash)
         return trash.error();
-    const Result<std::string> newName =
-        trash->addCopy({item.folder, item.name, item.path}, item.path);
+    Result<std::string> newName = trash->addCopy({item.folder, item.name, item.path}, item.path);
     if (!newName)
         return newName;
     const ActingAs root(FileSystemIdentity{0, 0});

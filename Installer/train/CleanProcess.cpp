@@ -107,12 +107,12 @@ bool keepOnly(std::uint64_t powers) {
     std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> sets = {};
     if (::syscall(SYS_capget, &header, sets.data()) != 0)
         return false;
-    for (std::size_t i = 0; i < sets.size(); ++i) {
-        const auto wanted = static_cast<std::uint32_t>(powers >> (32 * i));
+    for (__user_cap_data_struct &set : sets) {
         // Where root lacks a power, as in a container, what needs it fails by itself.
-        sets[i].permitted &= wanted;
-        sets[i].effective = sets[i].permitted;
-        sets[i].inheritable = 0;
+        set.permitted &= static_cast<std::uint32_t>(powers);
+        set.effective = set.permitted;
+        set.inheritable = 0;
+        powers >>= 32U;
     }
     return ::syscall(SYS_capset, &header, sets.data()) == 0;
 }
@@ -139,9 +139,10 @@ Result<void> checkIsRoot() {
     if (::geteuid() != 0)
         return Error{"run", "without privileges", "only root may do what this does", EPERM};
     // With it, acting as somebody else would leave root's powers over files in force.
-    if ((::prctl(PR_GET_SECUREBITS) & SECBIT_NO_SETUID_FIXUP) != 0)
+    if ((::prctl(PR_GET_SECUREBITS) & SECBIT_NO_SETUID_FIXUP) != 0) {
         return Error{"run", "with unusual rules for privileges", "start it in the usual way",
                      EPERM};
+    }
     return {};
 }
 

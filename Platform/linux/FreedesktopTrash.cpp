@@ -192,7 +192,7 @@ Result<std::string> FreedesktopTrash::copyToHomeTrash(const Item &item) const {
     if (!trash)
         return trash.error();
     const ItemPlace origin = {item.folderDescriptor.get(), item.name, item.path()};
-    const Result<std::string> newName = trash->addCopy(origin, item.path());
+    Result<std::string> newName = trash->addCopy(origin, item.path());
     if (!newName)
         return newName;
     if (moveWithoutReplacing(origin.folder, origin.name.c_str(), leaving->descriptor(), "item"))

@@ -12,6 +12,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -48,9 +49,9 @@ std::vector<std::string> librariesOf(const std::string &program) {
     const std::string command = "LD_TRACE_LOADED_OBJECTS=1 '" + program + "'";
     std::vector<std::string> names;
     const std::unique_ptr<FILE, int (*)(FILE *)> output(::popen(command.c_str(), "re"), ::pclose);
-    std::string text(4096, '\0');
+    std::array<char, 4096> text = {};
     while (output && std::fgets(text.data(), static_cast<int>(text.size()), output.get())) {
-        const std::string line = text.c_str();
+        const std::string line = text.data();
         // What the kernel itself brings into every process has no file.
         if (line.find('/') == std::string::npos)
             continue;

@@ -5,6 +5,7 @@
 
 #include "Installer/train/ExitStatus.h"
 #include "Installer/train/PrivilegedPlan.h"
+#include "tests/privileged/train/MadeUpVolume.h"
 #include "tests/privileged/train/TrainFixture.h"
 #include "tests/unit/copy/ChildProcess.h"
 #include "tests/unit/copy/TreeDescription.h"
@@ -25,8 +26,6 @@ namespace zt::testing {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 constexpr int usage = static_cast<int>(ExitStatus::Usage);
 constexpr int refused = static_cast<int>(ExitStatus::Refused);
@@ -280,6 +279,16 @@ INSTANTIATE_TEST_SUITE_P(
             "insideTheSource",
             [](auto &world) { return world.path("medium/Product.app/Contents/Inner.app"); },
             "it belongs to another user than root"}));
+
+// Nobody but root may write there, it says; but who knows what its program does with it.
+TEST_F(TrainDestinationTest, aVolumeThatAProgramMakesUpIsNotTrusted) {
+    const std::string folder = m_world.makeFolder("a/volume");
+    const MadeUpVolume volume(folder);
+    if (!volume)
+        GTEST_SKIP() << "this machine has no such volumes";
+    expectRefused({{m_source, folder + "/Product.app"}}, refused,
+                  "it lies on a volume that a program makes up");
+}
 
 class TrainApartTest : public TrainTest {
 protected:

@@ -23,8 +23,6 @@ namespace zt::testing {
 
 namespace {
 
-constexpr const char *worldBefore = "/mnt"; // where the folder of one test is made
-
 // So many moments are enough on any machine.
 constexpr int mostLooks = 60'000;
 
@@ -42,6 +40,7 @@ std::string temporaryFile(const char *name) {
 
 std::vector<char *> pointersTo(std::vector<std::string> &texts) {
     std::vector<char *> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string &text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -131,7 +130,7 @@ Attacker::~Attacker() {
     ::waitpid(m_pid, nullptr, 0);
 }
 
-TrainTest::TrainTest() : InstallTest(reasonForNoWorld().empty() ? worldBefore : temporaryParent()) {
+TrainTest::TrainTest() : InstallTest(reasonForNoWorld().empty() ? worldFolder : temporaryParent()) {
     m_trashPath = std::string(askersHome) + "/.local/share/Trash";
 }
 

@@ -77,9 +77,10 @@ protected:
     static std::vector<std::string> descriptorsOf(pid_t pid) {
         std::vector<std::string> targets;
         const std::string folder = "/proc/" + std::to_string(pid) + "/fd";
-        for (const auto &entry : std::filesystem::directory_iterator(folder))
+        for (const auto &entry : std::filesystem::directory_iterator(folder)) {
             targets.push_back(entry.path().filename().string() + ' ' +
                               std::filesystem::read_symlink(entry.path()).string());
+        }
         std::sort(targets.begin(), targets.end());
         return targets;
     }
@@ -283,6 +284,7 @@ TEST_F(TrainProcessTest, aSecondToolWaitsForTheFirst) {
 
 TEST_F(TrainProcessTest, severalToolsAtOneDestinationAllSucceedOneAfterTheOther) {
     std::vector<std::unique_ptr<RunningTrain>> tools;
+    tools.reserve(5);
     for (int i = 0; i < 5; ++i)
         tools.push_back(std::make_unique<RunningTrain>(TrainStart{{m_source, m_destination}}));
     for (const auto &tool : tools) {

@@ -26,7 +26,6 @@
 namespace zt::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr int refused = static_cast<int>(ExitStatus::Refused);
@@ -53,7 +52,7 @@ TEST_P(TrainSourceAttackTest, whatIsNoBundleOfTheAskersIsRefused) {
 // A bundle of the asker's whose dictionary is made by the caller.
 std::string bundleWith(const TemporaryFolder &world,
                        const std::function<void(const std::string &dictionary)> &make) {
-    const std::string bundle = world.makeFolder("medium/Other.app");
+    std::string bundle = world.makeFolder("medium/Other.app");
     world.makeFile("medium/Other.app/Contents/file", "x");
     make(bundle + "/Contents/Info.plist");
     return bundle;

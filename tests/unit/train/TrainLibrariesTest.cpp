@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdio>
 #include <memory>
 #include <regex>
@@ -20,9 +21,9 @@ std::vector<std::string> librariesOf(const std::string &program) {
     const std::string command = "LD_TRACE_LOADED_OBJECTS=1 '" + program + "'";
     const std::unique_ptr<FILE, int (*)(FILE *)> output(::popen(command.c_str(), "re"), ::pclose);
     std::vector<std::string> names;
-    std::string text(4096, '\0');
+    std::array<char, 4096> text = {};
     while (output && std::fgets(text.data(), static_cast<int>(text.size()), output.get())) {
-        const std::string line = text.c_str();
+        const std::string line = text.data();
         const std::string name = line.substr(1, line.find(' ') - 1);
         names.push_back(name.substr(name.rfind('/') + 1));
     }
