@@ -88,7 +88,7 @@ Result<void> openSource(InstallPlan &plan, const InstallPaths &paths) {
     if (!isBundle(*source))
         return Error{"install", paths.source, "it is not a bundle", EINVAL};
     plan.source = *std::move(source);
-    plan.sourceName = ".";
+    plan.sourceName = std::string(1, '.'); // the folder itself
     plan.sourcePath = paths.source;
     if (!paths.wrapper)
         return {};
