@@ -8,17 +8,39 @@
 #include "Platform/Clock.h"
 #include "Platform/Log.h"
 #include "Platform/Workspace.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/PathComponents.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <future>
 #include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
+
+namespace {
+
+// The path without links in it, also when its last part does not exist yet: the privileged tool
+// goes through none.
+QString withoutLinks(const QString &path) {
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const QString parent = deletingLastPathComponent(path);
+    if (!canonical.isEmpty() || parent.size() >= path.size())
+        return canonical.isEmpty() ? path : canonical;
+    return appendingPathComponent(withoutLinks(parent), lastPathComponent(path));
+}
+
+// The same for an item that is itself meant, also when it is a link.
+QString withoutLinksOnTheWay(const QString &path) {
+    return appendingPathComponent(withoutLinks(deletingLastPathComponent(path)),
+                                  lastPathComponent(path));
+}
+
+} // namespace
 
 std::optional<QString>
 InstallerWinController::installMyselfInDestination(const std::stop_token &stop) {
@@ -91,10 +113,11 @@ bool InstallerWinController::authorizedInstall(const QString &source, const QStr
         return false;
     zt::PrivilegedCommand command;
     command.tool = m_platform.bundles.mainBundle().pathForResource(u"train"_s).value_or(QString());
-    command.arguments = {source, to};
+    const QString destination = withoutLinksOnTheWay(to);
+    command.arguments = {withoutLinks(source), destination};
     if (wrap)
-        command.arguments << *wrap;
-    command.input = m_platform.workspace.registrationForTool(source, to);
+        command.arguments << withoutLinks(*wrap);
+    command.input = m_platform.workspace.registrationForTool(source, destination);
     const std::int32_t status = authorization->requestRight(command, stop);
     if (status != zt::AuthorizationStatus::success) {
         if (canceled)

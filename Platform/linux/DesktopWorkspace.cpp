@@ -62,8 +62,8 @@ QIcon DesktopWorkspace::iconForFile(const QString &path) {
     return QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName()));
 }
 
-// Comes back once the program shows its first window, so that who wants to be seen before it can be;
-// a program without windows is not waited for long.
+// Comes back once the program shows its first window, so that who wants to be seen before it can
+// be; a program without windows is not waited for long.
 bool DesktopWorkspace::launch(const Bundle &bundle) {
     const auto pid = launchBundle(bundle, m_folders.home);
     if (!pid)

@@ -52,8 +52,7 @@ TEST_F(BundleLaunchTest, theProcessIdIsTheProgramsOwn) {
 
 TEST_F(BundleLaunchTest, theProgramLeadsASessionOfItsOwnInTheHomeFolder) {
     const QString seen = launch("ps -o sid= -p $$; pwd");
-    EXPECT_EQ(seen.split(u'\n'),
-              (QStringList{QString::number(*pid), QDir::homePath()}));
+    EXPECT_EQ(seen.split(u'\n'), (QStringList{QString::number(*pid), QDir::homePath()}));
 }
 
 TEST_F(BundleLaunchTest, nothingOfThisProgramIsOpenThere) {

@@ -6,6 +6,7 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 #include "Platform/NativePlatform.h"
+#include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <QApplication>
 #include <QDir>
@@ -49,6 +50,7 @@ protected:
         m_controller.reset();
         m_current.reset();
         m_platform.reset();
+        ZTProcess::platformChanged();
         m_arguments = QStringList{u"installer"_s} + arguments;
         m_platform = std::make_unique<zt::NativePlatform>(m_arguments);
         m_current = std::make_unique<zt::ScopedPlatform>(m_platform->services());

@@ -107,17 +107,17 @@ TEST_P(PlaceTest, isSafeOnlyWhenNobodyElseCanExchangeTheTool) {
     ::chmod(folder.path(row.item).c_str(), 0755);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Modes, PlaceTest,
-    ::testing::Values(Row{"asUsual", "bundle/train", 0755, true},
-                      Row{"toolOfAllToWrite", "bundle/train", 0757, false},
-                      Row{"toolOfTheGroupToWrite", "bundle/train", 0775, false},
-                      Row{"folderOfAllToWrite", "bundle", 0777, false},
-                      Row{"folderOfTheGroupToWrite", "bundle", 0775, false},
-                      Row{"folderOfAllButSticky", "bundle", 01777, true},
-                      Row{"folderAboveOfAllToWrite", ".", 0777, false},
-                      Row{"folderAboveButSticky", ".", 01777, true}),
-    [](const auto &row) { return row.param.reason; });
+INSTANTIATE_TEST_SUITE_P(Modes, PlaceTest,
+                         ::testing::Values(Row{"asUsual", "bundle/train", 0755, true},
+                                           Row{"toolOfAllToWrite", "bundle/train", 0757, false},
+                                           Row{"toolOfTheGroupToWrite", "bundle/train", 0775,
+                                               false},
+                                           Row{"folderOfAllToWrite", "bundle", 0777, false},
+                                           Row{"folderOfTheGroupToWrite", "bundle", 0775, false},
+                                           Row{"folderOfAllButSticky", "bundle", 01777, true},
+                                           Row{"folderAboveOfAllToWrite", ".", 0777, false},
+                                           Row{"folderAboveButSticky", ".", 01777, true}),
+                         [](const auto &row) { return row.param.reason; });
 
 TEST_F(ToolToRunTest, whatBelongsToSomebodyElseIsNotSafe) {
     if (::geteuid() != 0)

@@ -67,6 +67,22 @@ TEST_F(AuthorizedInstallTest, aWrapperIsTheToolsThirdArgument) {
         (QStringList{source, path(u"Applications/Folder/Demo.app"_s), path(u"Disk/Folder"_s)}));
 }
 
+TEST_F(AuthorizedInstallTest, theToolIsGivenPathsWithoutLinks) {
+    ASSERT_TRUE(QFile::link(path(u"Disk"_s), path(u"LinkedDisk"_s)));
+    ASSERT_TRUE(QFile::link(path(u"Applications"_s), path(u"LinkedApplications"_s)));
+    ASSERT_TRUE(QFile::link(path(u"nowhere"_s), path(u"Applications/Linked.app"_s)));
+    start();
+    ASSERT_TRUE(controller().authorizedInstall(path(u"LinkedDisk/Demo.app"_s),
+                                               path(u"LinkedApplications/Linked.app"_s),
+                                               path(u"LinkedDisk"_s), nullptr));
+    EXPECT_EQ(platform.authorization.executed.front().arguments,
+              (QStringList{product, path(u"Applications/Linked.app"_s), path(u"Disk"_s)}));
+    ASSERT_TRUE(controller().authorizedInstall(
+        product, path(u"LinkedApplications/New Folder/Demo.app"_s), std::nullopt, nullptr));
+    EXPECT_EQ(platform.authorization.executed.back().arguments.last(),
+              path(u"Applications/New Folder/Demo.app"_s));
+}
+
 TEST_F(AuthorizedInstallTest, cancellingShowsNothingAndAllowsAnotherTry) {
     platform.authorization.answer = canceled;
     start();
