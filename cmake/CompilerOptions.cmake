@@ -21,6 +21,10 @@ function(velmora_target_options target)
         -Wold-style-cast -Woverloaded-virtual -Wcast-align -Wformat=2
         -Wimplicit-fallthrough -Werror
         $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>)
+    # g++ 12 sees overlaps where strings are put together and optimised (GCC bug 105651).
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        target_compile_options(${target} PRIVATE -Wno-restrict)
+    endif()
     # Qt's keyword macros ("signals", "emit") collide with the headers of other libraries.
     target_compile_definitions(${target} PRIVATE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII
         QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400)
