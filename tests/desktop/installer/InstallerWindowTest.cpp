@@ -1,141 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The installer's own window on a real X server, with a real window manager, bus and Trash. The
-// mouse and the keyboard are the X server's.
+#include "tests/desktop/installer/InstallerWindowFixture.h"
 
-#include "Installer/Sources/InstallerWinController.h"
-#include "Platform/NativePlatform.h"
-#include "ZTStuff/ZTClasses/ZTProcess.h"
-
-#include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QMessageBox>
-#include <QProcess>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextBrowser>
-#include <QTimer>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-
-class InstallerWindowTest : public testing::Test {
-protected:
-    InstallerWindowTest() { QDir().mkpath(path(u"Applications"_s)); }
-
-    QString path(const QString &relative) const { return m_folder.filePath(relative); }
-    QString destination() const { return path(u"Applications/Sample Notes.app"_s); }
-    static QString sample() { return QString::fromUtf8(SAMPLE_PRODUCT); }
-
-    static void write(const QString &file, const QByteArray &content) {
-        QDir().mkpath(QFileInfo(file).path());
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(content);
-    }
-
-    static QByteArray contentOf(const QString &file) {
-        QFile in(file);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
-    }
-
-    // Starts the installer for the sample product, or as the arguments say.
-    void start(const QStringList &arguments) {
-        m_controller.reset();
-        m_current.reset();
-        m_platform.reset();
-        ZTProcess::platformChanged();
-        m_arguments = QStringList{u"installer"_s} + arguments;
-        m_platform = std::make_unique<zt::NativePlatform>(m_arguments);
-        m_current = std::make_unique<zt::ScopedPlatform>(m_platform->services());
-        m_controller = std::make_unique<InstallerWinController>(
-            InstallerWinController::Environment{.platform = m_platform->services(),
-                                                .argumentVector = m_arguments,
-                                                .redirectStandardStreams = [](const QString &) {}});
-        m_controller->awakeFromNib();
-        ASSERT_TRUE(isOnScreen(&m_controller->window()));
-    }
-
-    // Waits until the window is active and stays where the window manager has put it.
-    static bool isOnScreen(QWidget *view) {
-        if (!QTest::qWaitForWindowActive(view, 10'000))
-            return false;
-        QPoint before;
-        do {
-            before = view->pos();
-            QTest::qWait(60);
-        } while (view->pos() != before);
-        return true;
-    }
-
-    void startSample(const QStringList &more = {}) {
-        start(QStringList{u"-sourcePath"_s, sample(), u"-destinationPath"_s, destination()} + more);
-    }
-
-    QDialog &window() { return m_controller->window(); }
-
-    template <typename View>
-    View *field(const char *name) {
-        return window().findChild<View *>(QString::fromLatin1(name));
-    }
-
-    QPushButton *button(const char *name) { return field<QPushButton>(name); }
-    QString text(const char *name) { return field<QLabel>(name)->text(); }
-    int page() { return field<QTabWidget>("tabView")->currentIndex(); }
-
-    // Clicks where the button is on the screen.
-    static void click(const QPushButton *target) {
-        ASSERT_TRUE(target->isVisible() && target->isEnabled());
-        const QPoint place = target->mapToGlobal(target->rect().center());
-        QProcess::execute(u"xdotool"_s, {u"mousemove"_s, QString::number(place.x()),
-                                         QString::number(place.y()), u"click"_s, u"1"_s});
-    }
-
-    static void type(const QString &key) { QProcess::execute(u"xdotool"_s, {u"key"_s, key}); }
-
-    // Lets the program run until the condition holds.
-    template <typename Condition>
-    static bool eventually(Condition condition) {
-        return QTest::qWaitFor(condition, 20'000);
-    }
-
-    // Lets the program run until it quits by itself.
-    static bool quits() {
-        constexpr int timedOut = 77;
-        QTimer::singleShot(20'000, qApp, [] { QApplication::exit(timedOut); });
-        return QApplication::exec() != timedOut;
-    }
-
-    // Makes a program of the test's own the handler for a kind of file or address; it writes what
-    // it is given into the answered file.
-    QString registerHandler(const QString &type) {
-        const QString record = path(u"opened"_s);
-        const QString script = path(u"handler"_s);
-        write(script, "#!/bin/sh\nprintf %s \"$1\" >'" + record.toUtf8() + ".new'\nmv '" +
-                          record.toUtf8() + ".new' '" + record.toUtf8() + "'\n");
-        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        const QString applications = QDir::homePath() + u"/.local/share/applications/"_s;
-        write(applications + u"handler.desktop"_s,
-              "[Desktop Entry]\nType=Application\nName=Handler\nExec=" + script.toUtf8() +
-                  " %u\nMimeType=" + type.toUtf8() + ";\n");
-        write(applications + u"mimeapps.list"_s,
-              "[Default Applications]\n" + type.toUtf8() + "=handler.desktop\n");
-        return record;
-    }
-
-private:
-    QTemporaryDir m_folder;
-    QStringList m_arguments;
-    std::unique_ptr<zt::NativePlatform> m_platform;
-    std::unique_ptr<zt::ScopedPlatform> m_current;
-    std::unique_ptr<InstallerWinController> m_controller;
-};
+using InstallerWindowTest = InstallerWindowFixture;
 
 TEST_F(InstallerWindowTest, aProductIsInstalledFromTheReadMeToTheEnd) {
     write(destination() + u"/old"_s, "old");
@@ -264,58 +132,6 @@ TEST_F(InstallerWindowTest, afterAFailureASecondTryCanSucceed) {
     EXPECT_TRUE(QFileInfo::exists(destination()));
 }
 
-// Starts a program; it ends with the test at the latest.
-std::unique_ptr<QProcess> started(const QString &program) {
-    auto process = std::make_unique<QProcess>();
-    process->start(program, QStringList());
-    EXPECT_TRUE(process->waitForStarted());
-    return process;
-}
-
-TEST_F(InstallerWindowTest, runningCopiesOfTheProductAreQuitFirst) {
-    ASSERT_EQ(QProcess::execute(u"cp"_s, {u"-a"_s, sample(), destination()}), 0);
-    const QString program = destination() + u"/Contents/Linux/SampleNotes"_s;
-    const auto first = started(program);
-    const auto second = started(program);
-    startSample();
-    click(button("installButton"));
-    ASSERT_TRUE(eventually([this] { return button("installButton")->text() == u"OK"_s; }));
-    EXPECT_TRUE(eventually([&] {
-        return first->state() == QProcess::NotRunning && second->state() == QProcess::NotRunning;
-    }));
-    EXPECT_TRUE(QFileInfo::exists(program));
-}
-
-TEST_F(InstallerWindowTest, aProductThatComesBackEachTimeStopsTheInstallationUntilItStaysAway) {
-    const QString product = path(u"Disk/Clingy.app"_s);
-    const QString program = product + u"/Contents/Linux/Clingy"_s;
-    write(product + u"/Contents/Info.plist"_s,
-          "<plist version=\"1.0\"><dict><key>CFBundleExecutable</key><string>Clingy</string>"
-          "<key>CFBundleName</key><string>Clingy</string>"
-          "<key>CFBundleSignature</key><string>Clng</string></dict></plist>");
-    write(program, "#!/bin/sh\nwhile :; do sleep 0.05; done\n");
-    QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    auto clingy = started(program);
-    int comebacks = 0;
-    QObject::connect(clingy.get(), &QProcess::finished, clingy.get(),
-                     [&clingy, &comebacks, program] {
-                         ++comebacks;
-                         clingy->start(program, QStringList());
-                     });
-    start({u"-sourcePath"_s, product, u"-destinationPath"_s, path(u"Applications/Clingy.app"_s)});
-    click(button("installButton"));
-    ASSERT_TRUE(eventually([this] { return field<QLabel>("messageField")->isVisible(); }));
-    EXPECT_EQ(text("messageField"), u"Clingy cannot be running during the installation.\rQuit "
-                                    "Clingy, then click \"Install\" again."_s);
-    EXPECT_EQ(comebacks, 4);
-    EXPECT_FALSE(QFileInfo::exists(path(u"Applications/Clingy.app"_s)));
-
-    QObject::disconnect(clingy.get(), &QProcess::finished, nullptr, nullptr);
-    click(button("installButton"));
-    ASSERT_TRUE(eventually([this] { return button("installButton")->text() == u"OK"_s; }));
-    EXPECT_TRUE(QFileInfo::exists(path(u"Applications/Clingy.app"_s)));
-}
-
 TEST_F(InstallerWindowTest, aTimedQuitEndsTheInstaller) {
     startSample({u"-completionQuit"_s, u"0.2"_s});
     click(button("installButton"));
@@ -330,10 +146,4 @@ TEST_F(InstallerWindowTest, noTextIsCutOffHoweverLongItIs) {
         const auto *label = field<QLabel>(name);
         EXPECT_GE(label->height(), label->heightForWidth(label->width())) << name;
     }
-}
-
-int main(int argc, char **argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }
