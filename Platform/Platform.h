@@ -13,6 +13,7 @@ class ApplicationEvents;
 class Authorization;
 class Bundles;
 class Clock;
+class KeyboardLayout;
 class Log;
 class LoginItems;
 class ProcessManager;
@@ -40,6 +41,7 @@ struct Platform {
     ApplicationEvents &applicationEvents;
     Accessibility &accessibility;
     Authorization &authorization;
+    KeyboardLayout &keyboardLayout;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

@@ -17,6 +17,7 @@
 #include "Platform/linux/PortalAppearance.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/StandardErrorLog.h"
+#include "Platform/linux/X11KeyboardLayout.h"
 #include "Platform/linux/X11WindowSystem.h"
 
 #include <QDir>
@@ -69,6 +70,7 @@ struct NativePlatform::Services {
     BusApplicationEvents applicationEvents;
     AtSpiAccessibility accessibility;
     PolkitAuthorization authorization{log};
+    X11KeyboardLayout keyboardLayout;
     Platform platform{.log = log,
                       .clock = clock,
                       .bundles = bundles,
@@ -83,7 +85,8 @@ struct NativePlatform::Services {
                       .runningApplications = runningApplications,
                       .applicationEvents = applicationEvents,
                       .accessibility = accessibility,
-                      .authorization = authorization};
+                      .authorization = authorization,
+                      .keyboardLayout = keyboardLayout};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

@@ -79,7 +79,8 @@ public:
                      .runningApplications = native.runningApplications,
                      .applicationEvents = native.applicationEvents,
                      .accessibility = native.accessibility,
-                     .authorization = native.authorization}
+                     .authorization = native.authorization,
+                     .keyboardLayout = native.keyboardLayout}
         , m_current(m_services) {
         ZTProcess::platformChanged();
     }

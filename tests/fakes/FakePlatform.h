@@ -20,6 +20,7 @@
 #include "tests/fakes/FakeAccessibility.h"
 #include "tests/fakes/FakeApplicationEvents.h"
 #include "tests/fakes/FakeAuthorization.h"
+#include "tests/fakes/FakeKeyboardLayout.h"
 #include "tests/fakes/FakeProcessManager.h"
 #include "tests/fakes/FakeRunningApplications.h"
 #include "tests/fakes/FakeWindowSystem.h"
@@ -186,6 +187,7 @@ struct FakePlatform {
     FakeApplicationEvents applicationEvents;
     FakeAccessibility accessibility;
     FakeAuthorization authorization;
+    FakeKeyboardLayout keyboardLayout;
     zt::Platform services{.log = log,
                           .clock = clock,
                           .bundles = bundles,
@@ -200,6 +202,7 @@ struct FakePlatform {
                           .runningApplications = runningApplications,
                           .applicationEvents = applicationEvents,
                           .accessibility = accessibility,
-                          .authorization = authorization};
+                          .authorization = authorization,
+                          .keyboardLayout = keyboardLayout};
     zt::ScopedPlatform current{services};
 };

@@ -65,7 +65,8 @@ protected:
                              .runningApplications = runningApplications,
                              .applicationEvents = applicationEvents,
                              .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization};
+                             .authorization = fakes.authorization,
+                             .keyboardLayout = fakes.keyboardLayout};
     zt::ScopedPlatform current{services};
 };
 

@@ -112,7 +112,8 @@ protected:
                             .runningApplications = m_fakes.runningApplications,
                             .applicationEvents = m_fakes.applicationEvents,
                             .accessibility = m_fakes.accessibility,
-                            .authorization = m_fakes.authorization};
+                            .authorization = m_fakes.authorization,
+                            .keyboardLayout = m_fakes.keyboardLayout};
     zt::ScopedPlatform m_current{m_services};
     std::mt19937 m_random{4711};
     std::vector<Running> m_running;

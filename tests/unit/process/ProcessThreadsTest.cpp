@@ -123,7 +123,8 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
                              .runningApplications = fakes.runningApplications,
                              .applicationEvents = fakes.applicationEvents,
                              .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization};
+                             .authorization = fakes.authorization,
+                             .keyboardLayout = fakes.keyboardLayout};
     const zt::ScopedPlatform current(services);
     ZTProcess::platformChanged();
     ZTProcess::installNotifications();

@@ -95,7 +95,8 @@ protected:
                              .runningApplications = runningApplications,
                              .applicationEvents = fakes.applicationEvents,
                              .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization};
+                             .authorization = fakes.authorization,
+                             .keyboardLayout = fakes.keyboardLayout};
     zt::ScopedPlatform current{services};
 };
 
