@@ -4,6 +4,7 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <algorithm>
 #include <charconv>
@@ -49,10 +50,18 @@ qsizetype unsignedNumberLength(QStringView text) {
 }
 
 // Tells an overflow from an underflow where the library reports only "out of range": by the
-// decimal exponent of the first significant digit.
+// decimal exponent of the first digit that is not 0.
 bool isTooLarge(const QByteArray &number) {
-    const auto e = number.indexOf('e') >= 0 ? number.indexOf('e') : number.indexOf('E');
-    return e < 0 || number.at(e + 1) != '-';
+    const auto mantissaEnd =
+        std::ranges::find_if(number, [](char c) { return c == 'e' || c == 'E'; });
+    const auto point = std::find(number.begin(), mantissaEnd, '.');
+    const auto first =
+        std::find_if(number.begin(), mantissaEnd, [](char c) { return c >= '1' && c <= '9'; });
+    const qsizetype exponent =
+        mantissaEnd == number.end()
+            ? 0
+            : integerValue(QString::fromLatin1(&*mantissaEnd + 1, number.end() - mantissaEnd - 1));
+    return exponent + (point - first) > 0;
 }
 
 template <typename Real>

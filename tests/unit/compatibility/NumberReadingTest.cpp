@@ -3,10 +3,13 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
 
+#include <QString>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+#include <string>
 
 struct IntegerRow {
     const char *reason;
@@ -68,4 +71,18 @@ TEST(NumberReadingTest, realsAreReadLeniently) {
     for (const RealRow &row : rows)
         EXPECT_EQ(floatValue(row.text), row.value) << row.reason;
     EXPECT_DOUBLE_EQ(doubleValue(u"0.1"), 0.1);
+}
+
+TEST(NumberReadingTest, theSizeIsToldByTheFirstDigitThatIsNotZero) {
+    const std::string zeros(60, '0');
+    const float infinity = std::numeric_limits<float>::infinity();
+    const auto valueOf = [](const std::string &text) {
+        return floatValue(QString::fromStdString(text));
+    };
+    EXPECT_EQ(valueOf("0." + zeros + "1"), 0.0F);
+    EXPECT_EQ(valueOf("1" + zeros), infinity);
+    EXPECT_EQ(valueOf("1" + zeros + "e-1"), infinity);
+    EXPECT_EQ(valueOf("0." + zeros + "1e1"), 0.0F);
+    EXPECT_EQ(valueOf("0." + zeros + "1e61"), 1.0F);
+    EXPECT_EQ(valueOf("0e999"), 0.0F);
 }
