@@ -5,6 +5,7 @@
 
 #include <QStringView>
 
+#include <algorithm>
 #include <iterator>
 
 namespace zt {
@@ -35,11 +36,23 @@ std::optional<std::uint8_t> macRomanByte(char16_t unit) {
 
 QString stringFromMacRoman(QByteArrayView bytes) {
     QString text(bytes.size(), Qt::Uninitialized);
-    for (qsizetype index = 0; index < bytes.size(); ++index) {
-        const auto byte = static_cast<std::uint8_t>(bytes[index]);
-        text[index] = byte < 0x80 ? QChar(char16_t(byte)) : QChar(upperHalf[byte - 0x80]);
-    }
+    std::ranges::transform(bytes, text.data(), [](char signedByte) {
+        const auto byte = static_cast<std::uint8_t>(signedByte);
+        return QChar(byte < 0x80 ? char16_t{byte} : upperHalf[byte - 0x80]);
+    });
     return text;
+}
+
+std::optional<QByteArray> macRomanFromString(const QString &text) {
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *output = bytes.data();
+    for (const QChar unit : text) {
+        const std::optional<std::uint8_t> byte = macRomanByte(unit.unicode());
+        if (!byte)
+            return std::nullopt;
+        *output++ = static_cast<char>(*byte);
+    }
+    return bytes;
 }
 
 std::optional<std::uint32_t> fourCharacterCode(const QString &text) {

@@ -5,6 +5,7 @@
 
 // Mac OS Roman, the encoding in which four-character codes are written.
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
@@ -15,6 +16,9 @@ namespace zt {
 
 // Every byte has a character. Thread: any.
 QString stringFromMacRoman(QByteArrayView bytes);
+
+// No value when the encoding does not have all characters of the text. Thread: any.
+std::optional<QByteArray> macRomanFromString(const QString &text);
 
 // The four bytes as one number, the first character in the highest byte. No value when the text is
 // not exactly four characters that the encoding has. An accent that stands behind its letter counts

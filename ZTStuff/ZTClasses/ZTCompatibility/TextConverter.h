@@ -5,6 +5,7 @@
 
 // Text in the encodings from before Unicode, by ICU.
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 
@@ -23,12 +24,20 @@ public:
     // Bytes that stand for no character become U+FFFD.
     QString toText(QByteArrayView bytes) const;
 
+    // No value when there are such bytes.
+    std::optional<QString> toTextExactly(QByteArrayView bytes) const;
+
+    // No value when the encoding does not have all characters of the text.
+    std::optional<QByteArray> fromTextExactly(const QString &text) const;
+
 private:
     struct Closer {
         void operator()(UConverter *converter) const { ucnv_close(converter); }
     };
 
     explicit TextConverter(UConverter *converter) : m_converter(converter) {}
+
+    std::optional<QString> convert(QByteArrayView bytes) const;
 
     std::unique_ptr<UConverter, Closer> m_converter;
 };

@@ -9,8 +9,6 @@
 #include "tests/unit/text/RandomText.h"
 #include "tests/unit/text/TextModels.h"
 
-#include <thread>
-
 using namespace Qt::StringLiterals;
 using namespace StringExtensions;
 
@@ -171,11 +169,7 @@ TEST(ZTRegularExpressionTest, theClassIsLookedUpOnceByItsName) {
             name = asked;
             return answer;
         });
-        std::vector<std::thread> threads;
-        for (int index = 0; index < 4; ++index)
-            threads.emplace_back([] { EXPECT_EQ(ZTRegularExpression::regexClass(), answer); });
-        for (std::thread &thread : threads)
-            thread.join();
+        EXPECT_EQ(ZTRegularExpression::regexClass(), native);
         EXPECT_TRUE(ZTRegularExpression::regexAvailable());
         EXPECT_EQ(lookUps, 1);
         EXPECT_EQ(name, "NSRegularExpression");

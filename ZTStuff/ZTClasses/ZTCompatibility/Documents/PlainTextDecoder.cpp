@@ -3,7 +3,7 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/Documents/PlainTextDecoder.h"
 
-#include "ZTStuff/ZTClasses/ZTCompatibility/Documents/TextConverter.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/TextConverter.h"
 
 #include <QRegularExpression>
 #include <QStringDecoder>

@@ -5,7 +5,7 @@
 
 // The code pages of rich text.
 
-#include "ZTStuff/ZTClasses/ZTCompatibility/Documents/TextConverter.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/TextConverter.h"
 
 #include <QByteArrayView>
 #include <QString>
