@@ -6,6 +6,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace zt {
@@ -35,11 +36,27 @@ std::optional<std::uint8_t> macRomanByte(char16_t unit) {
 } // namespace
 
 QString stringFromMacRoman(QByteArrayView bytes) {
-    QString text(bytes.size(), Qt::Uninitialized);
-    std::ranges::transform(bytes, text.data(), [](char signedByte) {
-        const auto byte = static_cast<std::uint8_t>(signedByte);
-        return QChar(byte < 0x80 ? char16_t{byte} : upperHalf[byte - 0x80]);
-    });
+    // Most bytes are ASCII, which many are turned into text of at a time; the others are put right
+    // after that.
+    QString text = QString::fromLatin1(bytes);
+    QChar *const units = text.data();
+    const char *const first = bytes.begin();
+    const char *byte = first;
+    while (byte != bytes.end()) {
+        std::uint64_t eightBytes = 0;
+        if (bytes.end() - byte >= qsizetype{sizeof eightBytes}) {
+            std::memcpy(&eightBytes, byte, sizeof eightBytes);
+            if ((eightBytes & 0x8080808080808080U) == 0) {
+                byte += sizeof eightBytes;
+                continue;
+            }
+        }
+        const qsizetype length = std::min<qsizetype>(bytes.end() - byte, sizeof eightBytes);
+        for (const char *const end = byte + length; byte != end; ++byte) {
+            if (const auto value = static_cast<std::uint8_t>(*byte); value >= 0x80)
+                units[byte - first] = QChar(upperHalf[value - 0x80]);
+        }
+    }
     return text;
 }
 

@@ -19,13 +19,31 @@ char lowerCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
+char upperCase(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c;
+}
+
 // The index behind the word, which is in lower case, in the Latin-1 text at or behind `from`, in
 // any case; -1 when it is not there.
 qsizetype indexBehind(QByteArrayView word, QByteArrayView text, qsizetype from) {
-    const auto found =
-        std::search(text.begin() + from, text.end(), word.begin(), word.end(),
-                    [](char inText, char inWord) { return lowerCase(inText) == inWord; });
-    return found == text.end() ? -1 : found - text.begin() + word.size();
+    const char first = word.front();
+    const char capital = upperCase(first);
+    qsizetype next =
+        -1; // the place of the first character in lower case, at the index or behind it
+    for (qsizetype index = from; index <= text.size() - word.size(); ++index) {
+        if (next < index) {
+            next = text.indexOf(first, index);
+            if (next < 0)
+                next = text.size();
+        }
+        const qsizetype large = text.sliced(index, next - index).indexOf(capital);
+        index = large < 0 ? next : index + large;
+        if (index <= text.size() - word.size() &&
+            std::equal(word.begin(), word.end(), text.begin() + index,
+                       [](char inWord, char inText) { return lowerCase(inText) == inWord; }))
+            return index + word.size();
+    }
+    return -1;
 }
 
 bool isBlankOrEqualsSign(char c) {

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <new>
+#include <optional>
+#include <utility>
 
 namespace StringExtensions {
 
@@ -17,7 +19,7 @@ namespace {
 QString part(const QString &text, qsizetype start, qsizetype end) {
     if (start == 0 && end == text.size())
         return text;
-    return start < end ? text.mid(start, end - start) : QString();
+    return start < end ? QString(text.constData() + start, end - start) : QString();
 }
 
 template <typename IsBlank>
@@ -32,26 +34,30 @@ QString trimmedOf(const QString &text, IsBlank isBlank) {
     return part(text, start, end);
 }
 
-// The pieces between the separators, with the last one. `isKept` tells of the last piece whether
-// it counts.
-template <typename IsKept>
-QStringList pieces(const QString &text, QStringView separator, IsKept isKept) {
-    const QStringView view(text);
+// Room is made for the pieces of a short text when they have the usual length. A long text's list
+// grows as well by itself.
+constexpr qsizetype usualPieceLength = 10;
+constexpr qsizetype mostExpectedPieces = 1024;
+
+// The pieces between the places that `next(from)` finds, each of which is so long; with the last
+// one if `isKept` tells so by its length. No value when `isRefused` tells so of a place.
+template <typename Next, typename IsRefused, typename IsKept>
+std::optional<QStringList> piecesUnless(IsRefused isRefused, const QString &text,
+                                        qsizetype separatorLength, Next next, IsKept isKept) {
     QStringList result;
     qsizetype start = 0;
-    qsizetype end = view.indexOf(separator);
-    if (end < 0) { // one piece, which can share the text's storage
-        if (isKept(text.size()))
-            result.append(text);
-        return result;
+    for (qsizetype end = next(0); end >= 0; end = next(start)) {
+        if (isRefused(end))
+            return std::nullopt;
+        if (start == 0)
+            result.reserve(std::min(text.size() / usualPieceLength, mostExpectedPieces));
+        result.emplace_back(text.constData() + start, end - start);
+        start = end + separatorLength;
     }
-    result.reserve(view.count(separator) + 1);
-    for (; end >= 0; end = view.indexOf(separator, start)) {
-        result.append(view.mid(start, end - start).toString());
-        start = end + separator.size();
-    }
-    if (isKept(text.size() - start))
-        result.append(view.mid(start).toString());
+    if (start == 0 && isKept(text.size())) // one piece, which can share the text's storage
+        result.append(text);
+    else if (isKept(text.size() - start))
+        result.emplace_back(text.constData() + start, text.size() - start);
     return result;
 }
 
@@ -156,12 +162,27 @@ QString asSingleLine(const QString &receiver) {
 }
 
 QStringList arrayOfLines(const QString &receiver) {
+    const QStringView text(receiver);
     const auto always = [](qsizetype /*length*/) { return true; };
-    for (const QStringView separator : {QStringView(u"\r\n"), QStringView(u"\n")}) {
-        if (receiver.contains(separator))
-            return pieces(receiver, separator, always);
-    }
-    return pieces(receiver, u"\r", always);
+    const auto never = [](qsizetype /*index*/) { return false; };
+    const auto isEndOfPair = [text](qsizetype index) {
+        return index > 0 && text[index - 1] == u'\r';
+    };
+    const auto nextLineFeed = [text](qsizetype from) { return text.indexOf(u'\n', from); };
+    const auto nextCarriageReturn = [text](qsizetype from) { return text.indexOf(u'\r', from); };
+    const auto nextPair = [=](qsizetype from) {
+        qsizetype index = nextLineFeed(from);
+        while (index >= 0 && (index == from || !isEndOfPair(index)))
+            index = nextLineFeed(index + 1);
+        return index < 0 ? index : index - 1;
+    };
+    if (nextLineFeed(0) < 0)
+        return *piecesUnless(never, receiver, 1, nextCarriageReturn, always);
+    // Whether there is a pair is seen on the way.
+    if (std::optional<QStringList> lines =
+            piecesUnless(isEndOfPair, receiver, 1, nextLineFeed, always))
+        return *std::move(lines);
+    return *piecesUnless(never, receiver, 2, nextPair, always);
 }
 
 QString withLineSeparator(const QString &receiver, const QString &separator) {
@@ -184,8 +205,11 @@ QString withLineSeparator(const QString &receiver, const QString &separator) {
 }
 
 QStringList componentsSeparatedByCharacter(const QString &receiver, QChar separator) {
-    return pieces(receiver, QStringView(&separator, 1),
-                  [](qsizetype length) { return length > 0; });
+    const QStringView text(receiver);
+    return *piecesUnless(
+        [](qsizetype /*index*/) { return false; }, receiver, 1,
+        [text, separator](qsizetype from) { return text.indexOf(separator, from); },
+        [](qsizetype length) { return length > 0; });
 }
 
 QString repeated(const QString &receiver, std::int32_t count) {

@@ -32,15 +32,19 @@ int utf8Length(char32_t scalar) {
     return scalar < 0x80 ? 1 : scalar < 0x800 ? 2 : scalar < 0x10000 ? 3 : 4;
 }
 
-// The length of the text with its escapes; none when it cannot be written as UTF-8. From the index
-// on; what comes before is legal.
-std::optional<qsizetype> escapedLength(QStringView text, qsizetype index) {
-    qsizetype length = index;
-    while (index < text.size()) {
+// The length of the text with its escapes; none when it cannot be written as UTF-8.
+std::optional<qsizetype> escapedLength(QStringView text) {
+    const char16_t *const units = text.utf16();
+    qsizetype length = 0;
+    for (qsizetype index = 0; index < text.size();) {
+        if (units[index] < isLegalInAddress.size()) {
+            length += isLegalInAddress[units[index++]] ? 1 : 3;
+            continue;
+        }
         const Scalar scalar = scalarAt(text, index);
         if (QChar::isSurrogate(scalar.value))
             return std::nullopt;
-        length += isLegal(text.utf16()[index]) ? 1 : 3 * utf8Length(scalar.value);
+        length += qsizetype{3} * utf8Length(scalar.value);
         index += scalar.length;
     }
     return length;
@@ -70,66 +74,66 @@ QChar *writeEscapes(char32_t scalar, QChar *output) {
 // The text with escapes; none when it cannot be written as UTF-8.
 std::optional<QString> withPercentEscapes(const QString &text) {
     const QStringView view(text);
-    const auto firstIllegal = std::find_if(view.utf16(), view.utf16() + view.size(),
-                                           [](char16_t unit) { return !isLegal(unit); });
-    qsizetype index = firstIllegal - view.utf16();
-    if (index == view.size())
-        return text;
-    const std::optional<qsizetype> length = escapedLength(view, index);
-    if (!length)
-        return std::nullopt;
+    const std::optional<qsizetype> length = escapedLength(view);
+    if (!length || *length == view.size())
+        return length ? std::optional(text) : std::nullopt;
     QString escaped(*length, Qt::Uninitialized);
-    QChar *output = std::copy_n(view.begin(), index, escaped.data());
-    while (index < view.size()) {
+    QChar *output = escaped.data();
+    for (qsizetype index = 0; index < view.size();) {
         const char16_t unit = view.utf16()[index];
         if (isLegal(unit)) {
             *output++ = QChar(unit);
             ++index;
-            continue;
+        } else if (unit < isLegalInAddress.size()) {
+            output = writeEscape(unit, output);
+            ++index;
+        } else {
+            const Scalar scalar = scalarAt(view, index);
+            output = writeEscapes(scalar.value, output);
+            index += scalar.length;
         }
-        const Scalar scalar = scalarAt(view, index);
-        output = writeEscapes(scalar.value, output);
-        index += scalar.length;
     }
     return escaped;
 }
 
+// The value of each hexadecimal digit; negative for other characters.
+constexpr std::array<std::int8_t, 128> hexadecimalDigits = [] {
+    std::array<std::int8_t, 128> values = {};
+    values.fill(-1);
+    for (std::size_t digit = 0; digit < 16; ++digit) {
+        values.at(static_cast<std::size_t>("0123456789abcdef"[digit])) = std::int8_t(digit);
+        values.at(static_cast<std::size_t>("0123456789ABCDEF"[digit])) = std::int8_t(digit);
+    }
+    return values;
+}();
+
 int hexadecimalDigit(char16_t unit) {
-    if (unit >= u'0' && unit <= u'9')
-        return unit - u'0';
-    const int letter = (unit | 0x20) - u'a';
-    return letter >= 0 && letter < 6 ? letter + 10 : -1;
+    return unit < hexadecimalDigits.size() ? hexadecimalDigits[unit] : -1;
 }
 
-// The byte of the escape at the position; none when no escape stands there.
-std::optional<std::uint32_t> escapedByte(const char16_t *position, const char16_t *last) {
+// The byte of the escape at the position; negative when no escape stands there.
+int escapedByte(const char16_t *position, const char16_t *last) {
     if (last - position < 3 || *position != u'%')
-        return std::nullopt;
+        return -1;
     const int high = hexadecimalDigit(position[1]);
     const int low = hexadecimalDigit(position[2]);
-    if (high < 0 || low < 0)
-        return std::nullopt;
-    return static_cast<std::uint32_t>(high << 4 | low);
+    return high < 0 || low < 0 ? -1 : high << 4 | low;
 }
 
 // The character whose UTF-8 the escapes at the position hold, and the units it takes; none when
 // they do not. Only the shortest form counts, and surrogates are no characters.
 std::optional<Scalar> escapedScalar(const char16_t *position, const char16_t *last) {
-    const std::optional<std::uint32_t> lead = escapedByte(position, last);
-    if (!lead)
+    const int lead = escapedByte(position, last);
+    if (lead < 0xC2 || lead > 0xF4)
         return std::nullopt;
-    if (*lead < 0x80)
-        return Scalar{*lead, 3};
-    if (*lead < 0xC2 || *lead > 0xF4)
-        return std::nullopt;
-    const int length = *lead < 0xE0 ? 2 : *lead < 0xF0 ? 3 : 4;
-    char32_t value = *lead & (0x7FU >> length);
+    const int length = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    auto value = static_cast<char32_t>(lead & (0x7F >> length));
     for (int index = 1; index < length; ++index) {
         position += 3;
-        const std::optional<std::uint32_t> byte = escapedByte(position, last);
-        if (!byte || (*byte & 0xC0) != 0x80)
+        const int byte = escapedByte(position, last);
+        if ((byte & ~0x3F) != 0x80)
             return std::nullopt;
-        value = value << 6 | (*byte & 0x3F);
+        value = value << 6 | static_cast<char32_t>(byte & 0x3F);
     }
     if (utf8Length(value) != length || QChar::isSurrogate(value) ||
         value > QChar::LastValidCodePoint)
@@ -155,6 +159,11 @@ QString stringWithExpandedPercentEscapes(const QString &receiver) {
     while (position != last) {
         if (*position != u'%') {
             *output++ = QChar(*position++);
+            continue;
+        }
+        if (const int byte = escapedByte(position, last); byte >= 0 && byte < 0x80) {
+            *output++ = QChar(static_cast<char16_t>(byte));
+            position += 3;
             continue;
         }
         const std::optional<Scalar> scalar = escapedScalar(position, last);

@@ -19,17 +19,33 @@ template <typename Callback>
 void forUTF32Characters(const QString &receiver, Callback &&callback) {
     const char16_t *unit = QStringView(receiver).utf16();
     const char16_t *const end = unit + receiver.size();
+    // Most texts have few pairs: in blocks without one, several units can be worked on at a time.
+    constexpr int blockLength = 32;
     while (unit != end) {
-        const char32_t first = *unit++;
-        if ((first & 0xFC00) != 0xD800) {
-            callback(first);
-            continue;
+        if (end - unit >= blockLength) {
+            char16_t highSurrogates = 0;
+            for (int index = 0; index < blockLength; ++index)
+                highSurrogates |= (unit[index] & 0xFC00) == 0xD800 ? 0xFFFF : 0;
+            if (highSurrogates == 0) {
+                for (int index = 0; index < blockLength; ++index)
+                    callback(char32_t{unit[index]});
+                unit += blockLength;
+                continue;
+            }
         }
-        if (unit == end)
-            return;
-        const char32_t second = *unit++;
-        if ((second & 0xFC00) == 0xDC00)
-            callback((first << 10) + second - 0x35FDC00);
+        const char16_t *const blockEnd = end - unit >= blockLength ? unit + blockLength : end;
+        while (unit < blockEnd) {
+            const char32_t first = *unit++;
+            if ((first & 0xFC00) != 0xD800) {
+                callback(first);
+                continue;
+            }
+            if (unit == end)
+                return;
+            const char32_t second = *unit++;
+            if ((second & 0xFC00) == 0xDC00)
+                callback((first << 10) + second - 0x35FDC00);
+        }
     }
 }
 

@@ -6,7 +6,6 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
 
 #include <QCryptographicHash>
-#include <QStringEncoder>
 #include <QVarLengthArray>
 
 #include <algorithm>
@@ -63,20 +62,21 @@ float smartFloatValue(const QString &receiver) {
 }
 
 QString MD5String(const QString &receiver) {
-    const qsizetype end = receiver.indexOf(QChar(u'\0'));
-    const QStringView text = QStringView(receiver).left(end < 0 ? receiver.size() : end);
+    const QStringView text(receiver);
     QCryptographicHash hash(QCryptographicHash::Md5);
     // Piece by piece, so that the bytes need no memory of the text's size.
-    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
-    constexpr qsizetype pieceLength = 4096;
-    char bytes[3 * (pieceLength + 2)];
+    constexpr qsizetype pieceLength = 16384;
     for (qsizetype start = 0; start < text.size();) {
         QStringView piece = text.mid(start, pieceLength);
         start += piece.size();
         // No pair is cut in two.
         if (start < text.size() && piece.back().isHighSurrogate() && text[start].isLowSurrogate())
             piece = QStringView(piece.begin(), text.begin() + ++start);
-        hash.addData(QByteArrayView(bytes, encoder.appendToBuffer(bytes, piece)));
+        const QByteArray bytes = piece.toUtf8();
+        const qsizetype null = bytes.indexOf('\0');
+        hash.addData(QByteArrayView(bytes).first(null < 0 ? bytes.size() : null));
+        if (null >= 0)
+            break;
     }
     return QString::fromLatin1(hash.result().toHex());
 }

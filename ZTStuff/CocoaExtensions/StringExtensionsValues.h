@@ -29,7 +29,7 @@ bool isIntegerNumber(const QString &receiver);
 float smartFloatValue(const QString &receiver);
 
 // The MD5 digest of the text's UTF-8, up to the first null character, as 32 lower-case hexadecimal
-// digits. An unpaired surrogate counts as U+FFFD.
+// digits. An unpaired surrogate counts as "?".
 QString MD5String(const QString &receiver);
 
 // The order of two texts in which numbers count by their value: "file9" comes before "file10". All

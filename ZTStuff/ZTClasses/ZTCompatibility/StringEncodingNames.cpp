@@ -3,10 +3,11 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/StringEncoding.h"
 
+#include <QHash>
+
 #include <unicode/ucnv.h>
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 
 namespace {
@@ -94,6 +95,17 @@ const char *converterName(const char *name) {
     return U_SUCCESS(status) ? found : nullptr;
 }
 
+// The names last as long as ICU. Where one converter serves several encodings, the first counts.
+QHash<QByteArrayView, StringEncoding> encodingsByConverter() {
+    QHash<QByteArrayView, StringEncoding> encodings;
+    for (const Row &row : rows) {
+        const char *const converter = converterName(row.name);
+        if (converter && !encodings.contains(converter))
+            encodings.insert(converter, row.encoding);
+    }
+    return encodings;
+}
+
 } // namespace
 
 const char *nameOfEncoding(StringEncoding encoding) {
@@ -110,9 +122,7 @@ std::optional<StringEncoding> encodingWithIANAName(QByteArrayView name) {
     const char *const converter = converterName(terminated.constData());
     if (!converter)
         return std::nullopt;
-    const auto *const found = std::ranges::find_if(rows, [converter](const Row &row) {
-        const char *const candidate = converterName(row.name);
-        return candidate && std::strcmp(candidate, converter) == 0;
-    });
-    return found == std::end(rows) ? std::nullopt : std::optional(found->encoding);
+    static const QHash<QByteArrayView, StringEncoding> encodings = encodingsByConverter();
+    const auto found = encodings.constFind(converter);
+    return found == encodings.cend() ? std::nullopt : std::optional(*found);
 }
