@@ -94,8 +94,11 @@ private:
     }
 
     void append(QChar unit) {
-        for (; m_lineEnds > 0; --m_lineEnds) {
-            m_text.append(u'\n');
+        if (m_lineEnds > 0) {
+            // None at the very start.
+            if (!m_text.isEmpty())
+                m_text.append(QString(m_lineEnds, u'\n'));
+            m_lineEnds = 0;
             m_blank = QChar();
         }
         if (!m_blank.isNull())

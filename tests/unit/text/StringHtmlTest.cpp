@@ -136,6 +136,7 @@ TEST(StringHtmlTest, markupIsDropped) {
         {"line ends", u"a<br>b<br/><br>c<br>"_s, u"a\nb\n\nc"_s},
         {"a line end before a block", u"a<br><p>b"_s, u"a\nb"_s},
         {"no space at a line's start", u"a<br> b"_s, u"a\nb"_s},
+        {"none at the start", u"<br><br>a"_s, u"a"_s},
         {"lists", u"<ul><li>a<li>b</ul>c"_s, u"a\nb\nc"_s},
         {"tables", u"<table><tr><td>a<td>b<tr><td>c</table>"_s, u"a\tb\nc"_s},
         {"preformatted text", u"<pre>a  b\n c\n</pre>d"_s, u"a  b\n c\nd"_s},
