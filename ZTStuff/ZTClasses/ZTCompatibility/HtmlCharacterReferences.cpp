@@ -25,6 +25,15 @@ bool isAsciiLetterOrDigit(QChar unit) {
     return (unit >= u'0' && unit <= u'9') || (letter >= u'a' && letter <= u'z');
 }
 
+bool isAsciiLetter(QChar unit) {
+    return isAsciiLetterOrDigit(unit) && (unit < u'0' || unit > u'9');
+}
+
+// Whether a "<" before it begins a tag, a comment or a declaration.
+bool mayFollowTagStart(QChar unit) {
+    return isAsciiLetter(unit) || unit == u'/' || unit == u'!' || unit == u'?';
+}
+
 int digitValue(QChar unit, int base) {
     if (unit >= u'0' && unit <= u'9')
         return unit.unicode() - u'0';
@@ -87,6 +96,12 @@ std::optional<Reference> referenceAt(QStringView text) {
     return text.startsWith(u'#') ? numericReference(text) : namedReference(text);
 }
 
+// What not every reader of HTML takes.
+bool isLeftOut(char16_t unit) {
+    return (unit < 0x20 && unit != u'\t' && unit != u'\n' && unit != u'\f' && unit != u'\r') ||
+           unit >= 0xFFFE;
+}
+
 class Writer {
 public:
     explicit Writer(qsizetype expectedSize) { m_utf8.reserve(expectedSize); }
@@ -98,10 +113,15 @@ public:
     }
 
     void appendReference(QStringView text) {
-        if (text.size() == 1 && text.front().unicode() < 0x80)
-            m_utf8.append("&#").append(QByteArray::number(text.front().unicode())).append(';');
-        else
+        const char16_t first = text.front().unicode();
+        if (isLeftOut(first))
+            return;
+        if (text.size() > 1 || first >= 0x80)
             append(text);
+        else
+            m_utf8.append("&#")
+                .append(QByteArray::number(first == u'\f' ? u' ' : first))
+                .append(';');
     }
 
     QByteArray take() { return std::move(m_utf8); }
@@ -116,7 +136,8 @@ private:
 QByteArray withPlainHtmlReferences(QStringView html) {
     Writer writer(html.size() + html.size() / 8);
     const auto isSpecial = [](QChar unit) {
-        return unit == u'&' || unit == u'\r' || unit == QChar(u'\0');
+        return unit == u'&' || unit == u'<' || unit == u'\r' || unit == u'\f' ||
+               isLeftOut(unit.unicode());
     };
     for (qsizetype index = 0; index < html.size();) {
         const auto special = std::find_if(html.begin() + index, html.end(), isSpecial);
@@ -128,6 +149,13 @@ QByteArray withPlainHtmlReferences(QStringView html) {
         if (*special == u'\r') {
             if (index == html.size() || html[index] != u'\n')
                 writer.append(u"\n");
+        } else if (*special == u'<') {
+            if (index < html.size() && mayFollowTagStart(html[index]))
+                writer.append(u"<");
+            else
+                writer.appendReference(u"<");
+        } else if (*special == u'\f') {
+            writer.append(u" ");
         } else if (*special == u'&') {
             const std::optional<Reference> reference = referenceAt(html.mid(index));
             writer.appendReference(reference ? QStringView(reference->text) : QStringView(u"&"));

@@ -143,6 +143,8 @@ TEST(StringHtmlTest, markupIsDropped) {
         {"nothing shown", u"<b></b>"_s, u""_s},
         {"tags in capitals", u"<P>a<BR>b</P>"_s, u"a\nb"_s},
         {"null characters", u"a\0<b>b</b>"_s, u"ab"_s},
+        {"control characters", u"a\u0001<\u0002&#1;&#xFFFF;b"_s, u"a<b"_s},
+        {"form feeds", u"a\f&#12;b"_s, u"a b"_s},
         {"beyond ASCII", u"<b>\u00E9\u4E00\U0001F600</b>"_s, u"\u00E9\u4E00\U0001F600"_s},
         {"a declared encoding is not that of a text", u"<meta charset=koi8-r>\u00E9"_s,
          u"\u00E9"_s},
