@@ -23,9 +23,11 @@ constexpr ByteOrder nativeOrder = Q_BYTE_ORDER == Q_BIG_ENDIAN ? ByteOrder::Big 
 constexpr char16_t mark = 0xFEFF;
 constexpr char16_t swappedMark = 0xFFFE;
 
-// Calls with the text's numbers turned from one order to the other where the orders differ.
+// Copies numbers, turned from the order into the processor's or back where the two differ.
 template <typename Number>
 void copyInOrder(const void *from, qsizetype count, void *to, ByteOrder order) {
+    if (count == 0)
+        return; // the pointers may be null
     if (order == ByteOrder::Big)
         qFromBigEndian<Number>(from, count, to);
     else
