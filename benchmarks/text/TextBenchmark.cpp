@@ -119,15 +119,17 @@ private:
         const QString pattern = u"The*lazy*no such word*.txt"_s;
         const QString fitting = u"The*lazy*page*.txt"_s;
         const QByteArray utf8 = text.toUtf8();
-        for (const auto &[name, wanted] :
-             {std::pair("wildcard", fitting), std::pair("wildcard_without_match", pattern)}) {
+        const std::pair<const char *, QString> patterns[] = {{"wildcard", fitting},
+                                                             {"wildcard_without_match", pattern}};
+        for (const auto &named : patterns) {
+            const QString &wanted = named.second;
             // As the flavour that lets "*" match anything, line ends too.
             const QRegularExpression expression(
                 u"\\A"_s + QString(wanted).replace(u"."_s, u"\\."_s).replace(u"*"_s, u".*"_s) +
                     u"\\z"_s,
                 QRegularExpression::DotMatchesEverythingOption);
             const QByteArray wantedUtf8 = wanted.toUtf8();
-            measure(name, [&] { return std::size_t(matchesWildcardPattern(text, wanted)); },
+            measure(named.first, [&] { return std::size_t(matchesWildcardPattern(text, wanted)); },
                     {{"qt_regular_expression",
                       [&] { return std::size_t(expression.match(text).hasMatch()); }},
                      {"fnmatch", [&] {

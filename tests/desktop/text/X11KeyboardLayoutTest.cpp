@@ -19,6 +19,9 @@
 
 #include <xcb/xcb.h>
 // The header uses a word of C++ as a name.
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define explicit explicitActions
 #include <xcb/xkb.h>
 #undef explicit
