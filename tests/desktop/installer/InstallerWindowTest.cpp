@@ -31,6 +31,27 @@ TEST_F(InstallerWindowTest, aProductIsInstalledFromTheReadMeToTheEnd) {
     EXPECT_TRUE(quits());
 }
 
+TEST_F(InstallerWindowTest, theInstalledProductRunsAndTheDesktopKnowsIt) {
+    startSample();
+    click(button("installButton"));
+    ASSERT_TRUE(eventually([this] { return button("installButton")->text() == u"OK"_s; }));
+    EXPECT_EQ(QProcess::execute(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s,
+                                               u"^Sample Notes$"_s}),
+              0);
+    EXPECT_TRUE(isOnScreen(&window())); // before the product's own window
+
+    const QString entry =
+        QDir::homePath() + u"/.local/share/applications/org.example.SampleNotes.desktop"_s;
+    EXPECT_EQ(QProcess::execute(u"desktop-file-validate"_s, {entry}), 0);
+    QProcess launcher;
+    launcher.start(u"gio"_s, {u"launch"_s, entry});
+    EXPECT_TRUE(launcher.waitForFinished());
+    EXPECT_EQ(launcher.exitCode(), 0) << launcher.readAllStandardError().toStdString();
+    EXPECT_TRUE(
+        QFile::exists(QDir::homePath() +
+                      u"/.local/share/icons/hicolor/48x48/apps/org.example.SampleNotes.png"_s));
+}
+
 TEST_F(InstallerWindowTest, theKeyboardAloneInstalls) {
     startSample({u"-readMePath"_s, sample() + u"/Contents/Resources/ReadMe.rtf"_s});
     type(u"Return"_s);
