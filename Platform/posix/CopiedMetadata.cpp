@@ -102,7 +102,7 @@ CopiedMetadata::CopiedMetadata(const struct stat &newItem, CopiedRights rights,
 
 mode_t CopiedMetadata::creationMode(const struct stat &original, CopiedRights rights) {
     const mode_t taken = rights == CopiedRights::All ? permissionBits : sharedBits;
-    return (original.st_mode & taken) | S_IWUSR;
+    return (original.st_mode & taken) | (S_ISDIR(original.st_mode) ? S_IRWXU : S_IWUSR);
 }
 
 bool CopiedMetadata::mayGive(gid_t group) const {
@@ -144,9 +144,7 @@ Result<CopiedMetadata::Ownership> CopiedMetadata::applyOwner(int copy,
 
 bool CopiedMetadata::needsMode(const struct stat &status, mode_t mode,
                                const Ownership &ownership) const {
-    const mode_t created =
-        S_ISDIR(status.st_mode) ? mode_t(S_IRWXU) : creationMode(status, m_rights) & ~m_mask;
-    return created != mode || ownership.wasSet;
+    return (creationMode(status, m_rights) & ~m_mask) != mode || ownership.wasSet;
 }
 
 mode_t CopiedMetadata::modeOf(const struct stat &status, const Ownership &ownership) const {

@@ -17,8 +17,9 @@ namespace zt {
 
 namespace {
 
-// Smaller files cost less when they pass through this process in one piece.
-constexpr std::size_t bufferSize = std::size_t(256) * 1024;
+// Smaller files cost less when they pass through this process in one piece; larger ones cost more,
+// for their bytes are then copied twice.
+constexpr std::size_t bufferSize = std::size_t(16) * 1024;
 
 // How much is copied between two looks at the stop token.
 constexpr std::uint64_t stepSize = std::uint64_t(8) * 1024 * 1024;
@@ -76,8 +77,14 @@ FileContentCopier::Outcome FileContentCopier::checkUnchanged(const struct stat &
 }
 
 FileContentCopier::Outcome FileContentCopier::copySmall(std::uint64_t size) {
-    // One byte more is asked for, so that a file that has grown is noticed.
-    const ssize_t count = readFully(m_source, m_buffer.get(), size + 1);
+    // One byte more is asked for, so that a file that has grown is noticed. Fewer bytes than asked
+    // for are the end of a file, except on few file systems; these tell it with a further reading.
+    ssize_t count = readSome(m_source, m_buffer.get(), size + 1);
+    if (count >= 0 && static_cast<std::uint64_t>(count) < size) {
+        const auto done = static_cast<std::size_t>(count);
+        const ssize_t more = readFully(m_source, m_buffer.get() + done, size + 1 - done);
+        count = more < 0 ? more : count + more;
+    }
     if (count < 0)
         return Outcome::ReadFailed;
     if (static_cast<std::uint64_t>(count) != size)

@@ -110,7 +110,8 @@ Result<void> TreeCopier::enterFolder(TreeFolder &folder) {
     const ActingAs writing(m_writer);
     const int parent = folder.parent ? folder.parent->target.get() : m_request.target.folder;
     const std::string &name = folder.parent ? folder.name : m_request.target.name;
-    if (::mkdirat(parent, name.c_str(), S_IRWXU) != 0)
+    const mode_t mode = CopiedMetadata::creationMode(folder.status, m_request.rights);
+    if (::mkdirat(parent, name.c_str(), mode) != 0)
         return Error::fromErrno("make folder", targetPath(folder));
     folder.target = openAt(parent, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
     if (!folder.target)

@@ -25,7 +25,9 @@ std::optional<TreeTask> TreeTaskQueue::take() {
             m_ended = true;
             m_changed.notify_all();
         }
+        ++m_idle;
         m_changed.wait(lock, [&] { return m_ended || !m_tasks.empty(); });
+        --m_idle;
         ++m_busy;
     }
     if (m_ended)
@@ -36,6 +38,7 @@ std::optional<TreeTask> TreeTaskQueue::take() {
 }
 
 void TreeTaskQueue::leave() {
+    --m_idle;
     const std::lock_guard lock(m_mutex);
     if (--m_busy == 0 && m_tasks.empty()) {
         m_ended = true;

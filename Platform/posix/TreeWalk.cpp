@@ -9,6 +9,7 @@
 
 #include <dirent.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstring>
@@ -59,6 +60,8 @@ private:
     Result<void> enter(TreeFolder &folder);
     Result<Step> listStep(TreeTask &task, std::span<std::byte> buffer);
     Result<void> visitEntries(TreeTask task, unsigned worker);
+    static void sortRest(TreeTask &task);
+    void shareRest(TreeTask &task);
     Result<unsigned char> knownType(const TreeFolder &folder, const char *name,
                                     unsigned char type) const;
     Result<void> finish(TreeFolder *folder);
@@ -185,6 +188,43 @@ Result<unsigned char> TreeWalk::knownType(const TreeFolder &folder, const char *
     return static_cast<unsigned char>(IFTODT(status->st_mode));
 }
 
+// Puts the entries that are still to be visited in order, the largest first: when each thread takes
+// the next one as it gets free, they end at about the same time.
+void TreeWalk::sortRest(TreeTask &task) {
+    using Entry = std::pair<off_t, std::string>;
+    std::vector<Entry> rest;
+    for (std::size_t place = task.offset; place < task.entries.size();) {
+        const std::size_t end = task.entries.find('\0', place + 1) + 1;
+        const char *name = task.entries.c_str() + place + 1;
+        const std::optional<struct stat> status = statusAt(task.folder->source.get(), name);
+        rest.emplace_back(status ? status->st_size : 0, task.entries.substr(place, end - place));
+        place = end;
+    }
+    std::stable_sort(rest.begin(), rest.end(),
+                     [](const Entry &a, const Entry &b) { return a.first > b.first; });
+    task.entries.resize(task.offset);
+    for (const Entry &entry : rest)
+        task.entries += entry.second;
+    task.isSorted = true;
+}
+
+// Leaves all but the next entry to whichever thread is free first. A few large files so keep all
+// threads busy, and near the end of a walk nobody waits long for another.
+void TreeWalk::shareRest(TreeTask &task) {
+    if (!task.isSorted)
+        sortRest(task);
+    const std::size_t end = task.entries.find('\0', task.offset + 1) + 1;
+    if (end == task.entries.size())
+        return;
+    ++task.folder->m_unfinished;
+    TreeTask rest;
+    rest.folder = task.folder;
+    rest.entries = task.entries.substr(end);
+    rest.isSorted = true;
+    task.entries.resize(end);
+    m_queue.add(std::move(rest));
+}
+
 Result<void> TreeWalk::visitEntries(TreeTask task, unsigned worker) {
     TreeFolder &folder = *task.folder;
     {
@@ -194,6 +234,8 @@ Result<void> TreeWalk::visitEntries(TreeTask task, unsigned worker) {
         while (task.offset < task.entries.size()) {
             if (mustEnd())
                 return stoppedError(folder.path());
+            if (task.isSorted || m_queue.isAwaited())
+                shareRest(task);
             const char *name = task.entries.c_str() + task.offset + 1;
             const Result<unsigned char> type =
                 knownType(folder, name, static_cast<unsigned char>(task.entries[task.offset]));
@@ -253,6 +295,7 @@ void TreeWalk::fail(Error error) {
 void TreeWalk::work(unsigned worker) {
     try {
         ListingBuffer buffer;
+        m_queue.enter();
         while (std::optional<TreeTask> task = m_queue.take()) {
             if (Result<void> performed = perform(*std::move(task), worker, buffer); !performed)
                 fail(performed.error());
