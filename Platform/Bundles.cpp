@@ -3,6 +3,7 @@
 
 #include "Platform/Bundles.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace zt {
@@ -26,6 +27,17 @@ std::optional<QString> Bundle::pathForResource(const QString &name, const QStrin
     if (!resource.canonicalFilePath().startsWith(folder + u'/'))
         return std::nullopt;
     return resource.filePath();
+}
+
+QStringList Bundle::pathsForResources() const {
+    if (m_layout.resourcesPath.isEmpty())
+        return {};
+    QStringList paths;
+    const QDir folder(m_layout.resourcesPath);
+    for (const QString &name :
+         folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name))
+        paths << m_layout.resourcesPath + u'/' + name;
+    return paths;
 }
 
 } // namespace zt

@@ -6,6 +6,7 @@
 // Bundles: folders that hold a program with its resources and an information dictionary.
 
 #include <QString>
+#include <QStringList>
 #include <QVariantMap>
 
 #include <optional>
@@ -35,6 +36,10 @@ public:
     // The path of the existing resource `name` with the extension `type` (none when empty). A name
     // that leads out of the resources folder is not found.
     std::optional<QString> pathForResource(const QString &name, const QString &type = {}) const;
+
+    // The paths of all items at the top of the resources folder, by name. Empty when it cannot be
+    // read.
+    QStringList pathsForResources() const;
 
 private:
     Layout m_layout;

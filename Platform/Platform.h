@@ -18,6 +18,7 @@ class Log;
 class LoginItems;
 class ProcessManager;
 class RunningApplications;
+class Sounds;
 class SystemVersion;
 class Trash;
 class UserDefaults;
@@ -42,6 +43,7 @@ struct Platform {
     Accessibility &accessibility;
     Authorization &authorization;
     KeyboardLayout &keyboardLayout;
+    Sounds &sounds;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

@@ -117,6 +117,8 @@ public:
     // for its placeholder.
     void showFinalMessage(const char *messageKey);
 
+    // Plays the sound "Done" as loud as alerts are and where alerts are heard, if the arguments ask
+    // for it. Silent when anything about sound is missing.
     void playDoneSound();
 
 private:
@@ -141,6 +143,7 @@ private:
     bool hasIcon(const QString &path, const std::stop_token &stop);
     QString failureMessage(const QString &messageKey) const;
 
+    bool wantsDoneSound() const;
     void applyTimedQuit();
     void announce(QWidget *field);
 

@@ -8,6 +8,8 @@
 #include "Platform/Clock.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
+#include "ZTStuff/CocoaExtensions/SoundExtensions.h"
+#include "ZTStuff/CocoaExtensions/ZTSound.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
@@ -75,9 +77,18 @@ void InstallerWinController::showFinalMessage(const char *messageKey) {
     announce(m_ui.introField);
 }
 
+bool InstallerWinController::wantsDoneSound() const {
+    return argument(ZTInstallerCompletionSound) == u"YES"_s;
+}
+
 void InstallerWinController::playDoneSound() {
-    if (argument(ZTInstallerCompletionSound) == u"YES"_s)
-        m_platform.workspace.beep();
+    if (!wantsDoneSound())
+        return;
+    const ZTSound::Pointer sound = ZTSound::soundNamed(u"Done"_s);
+    if (!sound)
+        return;
+    sound->setVolume(SoundExtensions::alertVolume());
+    SoundExtensions::playAsSoundEffect(*sound);
 }
 
 void InstallerWinController::openDocumentation() {

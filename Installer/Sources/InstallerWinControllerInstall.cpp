@@ -5,6 +5,8 @@
 
 #include "Installer/Sources/LocalizedString.h"
 #include "Platform/Clock.h"
+#include "Platform/Sounds.h"
+#include "Platform/UserDefaults.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 
@@ -25,6 +27,9 @@ void InstallerWinController::install() {
     m_forcesAuthorization = m_heldKeys.optionWasHeld();
     m_ui.installButton->setEnabled(false);
     m_ui.cancelButton->setEnabled(false);
+    // While the product is copied the sound server is found, so that the end does not wait for it.
+    if (wantsDoneSound() && !m_platform.userDefaults.boolForKey(u"nosound"_s))
+        m_platform.sounds.getReady();
     m_installThread = std::jthread([this](const std::stop_token &stop) { installThread(stop); });
 }
 

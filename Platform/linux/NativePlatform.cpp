@@ -19,6 +19,7 @@
 #include "Platform/linux/StandardErrorLog.h"
 #include "Platform/linux/X11KeyboardLayout.h"
 #include "Platform/linux/X11WindowSystem.h"
+#include "Platform/linux/sound/PulseSounds.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -37,6 +38,11 @@ QString configurationFolder() {
 
 QString settingsDomain(const Bundle &bundle) {
     return bundle.stringForKey(u"CFBundleIdentifier"_s).value_or(QString());
+}
+
+PulseSounds::Folders soundFolders() {
+    return {QString(), QDir::homePath(),
+            QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)};
 }
 
 DesktopWorkspace::Folders workspaceFolders() {
@@ -71,6 +77,7 @@ struct NativePlatform::Services {
     AtSpiAccessibility accessibility;
     PolkitAuthorization authorization{log};
     X11KeyboardLayout keyboardLayout;
+    PulseSounds sounds{soundFolders()}; // goes first, with tasks that use the others
     Platform platform{.log = log,
                       .clock = clock,
                       .bundles = bundles,
@@ -86,7 +93,8 @@ struct NativePlatform::Services {
                       .applicationEvents = applicationEvents,
                       .accessibility = accessibility,
                       .authorization = authorization,
-                      .keyboardLayout = keyboardLayout};
+                      .keyboardLayout = keyboardLayout,
+                      .sounds = sounds};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

@@ -80,7 +80,8 @@ public:
                      .applicationEvents = native.applicationEvents,
                      .accessibility = native.accessibility,
                      .authorization = native.authorization,
-                     .keyboardLayout = native.keyboardLayout}
+                     .keyboardLayout = native.keyboardLayout,
+                     .sounds = native.sounds}
         , m_current(m_services) {
         ZTProcess::platformChanged();
     }

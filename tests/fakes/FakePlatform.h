@@ -23,6 +23,7 @@
 #include "tests/fakes/FakeKeyboardLayout.h"
 #include "tests/fakes/FakeProcessManager.h"
 #include "tests/fakes/FakeRunningApplications.h"
+#include "tests/fakes/FakeSounds.h"
 #include "tests/fakes/FakeWindowSystem.h"
 
 #include <QMap>
@@ -188,6 +189,7 @@ struct FakePlatform {
     FakeAccessibility accessibility;
     FakeAuthorization authorization;
     FakeKeyboardLayout keyboardLayout;
+    FakeSounds sounds;
     zt::Platform services{.log = log,
                           .clock = clock,
                           .bundles = bundles,
@@ -203,6 +205,7 @@ struct FakePlatform {
                           .applicationEvents = applicationEvents,
                           .accessibility = accessibility,
                           .authorization = authorization,
-                          .keyboardLayout = keyboardLayout};
+                          .keyboardLayout = keyboardLayout,
+                          .sounds = sounds};
     zt::ScopedPlatform current{services};
 };

@@ -42,3 +42,9 @@ QString deletingPathExtension(const QString &path) {
     const qsizetype dot = trimmed.lastIndexOf(u'.');
     return dot > name ? trimmed.left(dot) : trimmed;
 }
+
+QString pathExtension(const QString &path) {
+    const QString name = lastPathComponent(path);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot > 0 ? name.mid(dot + 1) : QString();
+}

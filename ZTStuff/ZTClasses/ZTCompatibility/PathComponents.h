@@ -21,3 +21,7 @@ QString appendingPathComponent(const QString &path, const QString &component);
 // The path without the last dot of its last component and what follows it: "/a/b" of "/a/b.app".
 // A component that only begins with a dot has no extension.
 QString deletingPathExtension(const QString &path);
+
+// What follows the last dot of the last component: "app" of "/a/b.app". The empty text when there
+// is no dot, or when it only begins the component.
+QString pathExtension(const QString &path);

@@ -66,7 +66,8 @@ protected:
                              .applicationEvents = applicationEvents,
                              .accessibility = fakes.accessibility,
                              .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout};
+                             .keyboardLayout = fakes.keyboardLayout,
+                             .sounds = fakes.sounds};
     zt::ScopedPlatform current{services};
 };
 

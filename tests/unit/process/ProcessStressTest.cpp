@@ -113,7 +113,8 @@ protected:
                             .applicationEvents = m_fakes.applicationEvents,
                             .accessibility = m_fakes.accessibility,
                             .authorization = m_fakes.authorization,
-                            .keyboardLayout = m_fakes.keyboardLayout};
+                            .keyboardLayout = m_fakes.keyboardLayout,
+                            .sounds = m_fakes.sounds};
     zt::ScopedPlatform m_current{m_services};
     std::mt19937 m_random{4711};
     std::vector<Running> m_running;

@@ -124,7 +124,8 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
                              .applicationEvents = fakes.applicationEvents,
                              .accessibility = fakes.accessibility,
                              .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout};
+                             .keyboardLayout = fakes.keyboardLayout,
+                             .sounds = fakes.sounds};
     const zt::ScopedPlatform current(services);
     ZTProcess::platformChanged();
     ZTProcess::installNotifications();

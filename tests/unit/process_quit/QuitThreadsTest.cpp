@@ -96,7 +96,8 @@ protected:
                              .applicationEvents = fakes.applicationEvents,
                              .accessibility = fakes.accessibility,
                              .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout};
+                             .keyboardLayout = fakes.keyboardLayout,
+                             .sounds = fakes.sounds};
     zt::ScopedPlatform current{services};
 };
 
