@@ -78,6 +78,11 @@ void PulseConversation::wakeUp() {
         pulseLibrary()->pa_mainloop_wakeup(m_loop);
 }
 
+bool PulseConversation::hasMail() {
+    const std::scoped_lock lock(m_mutex);
+    return !m_inbox.isEmpty();
+}
+
 PulseConversation::Inbox PulseConversation::takeInbox() {
     const std::scoped_lock lock(m_mutex);
     if (m_inbox.isToEnd)
@@ -106,7 +111,8 @@ void PulseConversation::talk(const PulseLibrary &library, pa_mainloop &loop) {
                 action();
             for (auto &request : inbox.requests)
                 session.add(std::move(request));
-            session.handleEvents();
+            if (!session.handleEvents([this] { return hasMail(); }))
+                break;
         }
     }
     const std::scoped_lock lock(m_mutex);

@@ -42,11 +42,14 @@ private:
         std::vector<std::shared_ptr<PulseRequest>> requests;
         std::vector<std::function<void()>> actions;
         bool isToEnd = false;
+
+        bool isEmpty() const { return requests.empty() && actions.empty() && !isToEnd; }
     };
 
     explicit PulseConversation(std::string programName);
     void run();
     void talk(const PulseLibrary &library, pa_mainloop &loop);
+    bool hasMail();
     Inbox takeInbox();
     void wakeUp();
     void finish();

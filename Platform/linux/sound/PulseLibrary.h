@@ -28,10 +28,12 @@ struct PulseLibrary {
     VELMORA_IMPORT(pa_cvolume_max);
     VELMORA_IMPORT(pa_cvolume_set);
     VELMORA_IMPORT(pa_ext_stream_restore_read);
+    VELMORA_IMPORT(pa_mainloop_dispatch);
     VELMORA_IMPORT(pa_mainloop_free);
     VELMORA_IMPORT(pa_mainloop_get_api);
-    VELMORA_IMPORT(pa_mainloop_iterate);
     VELMORA_IMPORT(pa_mainloop_new);
+    VELMORA_IMPORT(pa_mainloop_poll);
+    VELMORA_IMPORT(pa_mainloop_prepare);
     VELMORA_IMPORT(pa_mainloop_wakeup);
     VELMORA_IMPORT(pa_operation_unref);
     VELMORA_IMPORT(pa_proplist_free);

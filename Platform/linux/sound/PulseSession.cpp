@@ -28,11 +28,19 @@ void PulseSession::add(std::shared_ptr<PulseRequest> request) {
     lookAtConnection();
 }
 
-void PulseSession::handleEvents() {
+bool PulseSession::handleEvents(const std::function<bool()> &isWanted) {
     forgetDone();
-    m_library.pa_mainloop_iterate(&m_loop, 1, nullptr);
+    // Preparing forgets earlier wake-ups, so what they were for is looked at only then.
+    constexpr int endlessly = -1;
+    if (m_library.pa_mainloop_prepare(&m_loop, endlessly) < 0)
+        return false;
+    if (isWanted())
+        m_library.pa_mainloop_wakeup(&m_loop);
+    if (m_library.pa_mainloop_poll(&m_loop) < 0 || m_library.pa_mainloop_dispatch(&m_loop) < 0)
+        return false;
     lookAtConnection();
     forgetDone();
+    return true;
 }
 
 void PulseSession::connect() {

@@ -7,6 +7,7 @@
 
 #include "Platform/linux/sound/PulseRequest.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,8 +26,10 @@ public:
     // Begins the request as soon as there is a connection.
     void add(std::shared_ptr<PulseRequest> request);
 
-    // Waits for the server, or for a wake-up of the loop, and handles what has come.
-    void handleEvents();
+    // Waits for the server, or for a wake-up of the loop, and handles what has come. It does not
+    // wait when `isWanted` says that there is something else to do; a wake-up after that is heeded.
+    // False when the loop is of no use any more.
+    bool handleEvents(const std::function<bool()> &isWanted);
 
 private:
     struct Entry {

@@ -41,7 +41,7 @@ TEST_F(CompletionTest, anEmptyMessageClearsTheField) {
     finish(u""_s);
     EXPECT_EQ(text("messageField"), u""_s);
     EXPECT_TRUE(field<QPushButton>("installButton")->isEnabled());
-    EXPECT_EQ(platform.workspace.beeps, 0);
+    EXPECT_TRUE(platform.sounds.plays().empty());
 }
 
 struct SoundRow {
@@ -50,6 +50,16 @@ struct SoundRow {
     QVariantMap defaults;
     int sounds;
 };
+
+// The installer's own resources, with a sound that can be played.
+void addDoneSound(FakePlatform &services, const QString &installer) {
+    const QString sound = installer + u"/Contents/Resources/Done.wav"_s;
+    QDir().mkpath(QFileInfo(sound).path());
+    QFile file(sound);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    services.bundles.setMainBundle(installer);
+    services.sounds.files.insert(sound, {1000, 1, std::vector<float>(300, 0.1F)});
+}
 
 TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly) {
     const SoundRow rows[] = {
@@ -62,7 +72,7 @@ TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly) {
     };
     for (const SoundRow &row : rows) {
         FakePlatform services;
-        services.bundles.setMainBundle(product + u"/Contents/Resources/VelmoraInstaller.app"_s);
+        addDoneSound(services, product + u"/Contents/Resources/VelmoraInstaller.app"_s);
         services.bundles.add(product, {{u"CFBundleSignature"_s, u"DEMO"_s}});
         services.workspace.localApplications = {path(u"Applications"_s)};
         services.userDefaults.values = row.defaults;
@@ -71,8 +81,43 @@ TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly) {
                                            .redirectStandardStreams = [](const QString &) {}});
         controller.awakeFromNib();
         controller.installationFinished(std::nullopt);
-        EXPECT_EQ(services.workspace.beeps, row.sounds) << row.reason;
+        EXPECT_EQ(services.sounds.plays().size(), std::size_t(row.sounds)) << row.reason;
+        EXPECT_EQ(services.workspace.beeps, 0) << row.reason;
     }
+}
+
+TEST_F(CompletionTest, theSoundIsAsLoudAsAlertsAndWhereTheyAreHeard) {
+    addDoneSound(platform, product + u"/Contents/Resources/VelmoraInstaller.app"_s);
+    platform.sounds.chosenDevice = u"headset"_s;
+    platform.sounds.chosenVolume = 0.25F;
+    start({u"-completionSound"_s, u"YES"_s});
+    finish();
+    EXPECT_EQ(platform.sounds.plays(),
+              std::vector<FakeSounds::Play>({{u"Done"_s, 0.25F, u"headset"_s, 300}}));
+}
+
+TEST_F(CompletionTest, aMissingSoundIsNoMatter) {
+    start({u"-completionSound"_s, u"YES"_s});
+    const QStringList before = platform.log.lines();
+    finish();
+    EXPECT_TRUE(platform.sounds.plays().empty());
+    EXPECT_EQ(platform.log.lines(), before);
+    EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
+}
+
+TEST_F(CompletionTest, soundIsThoughtOfOnlyOnceTheInstallationBegins) {
+    start({u"-completionSound"_s, u"YES"_s});
+    EXPECT_EQ(platform.sounds.readyRequests, 0);
+    field<QPushButton>("installButton")->click();
+    waitUntil([this] { return shown("checkmarkField"); });
+    EXPECT_EQ(platform.sounds.readyRequests, 1);
+}
+
+TEST_F(CompletionTest, withoutASoundToPlayNoneIsThoughtOf) {
+    start();
+    field<QPushButton>("installButton")->click();
+    waitUntil([this] { return shown("checkmarkField"); });
+    EXPECT_EQ(platform.sounds.readyRequests, 0);
 }
 
 TEST_F(CompletionTest, aTimedQuitComesAfterItsDelay) {
