@@ -51,16 +51,6 @@ struct SoundRow {
     int sounds;
 };
 
-// The installer's own resources, with a sound that can be played.
-void addDoneSound(FakePlatform &services, const QString &installer) {
-    const QString sound = installer + u"/Contents/Resources/Done.wav"_s;
-    QDir().mkpath(QFileInfo(sound).path());
-    QFile file(sound);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    services.bundles.setMainBundle(installer);
-    services.sounds.files.insert(sound, {1000, 1, std::vector<float>(300, 0.1F)});
-}
-
 TEST_F(CompletionTest, theSoundIsPlayedOnlyWhenItIsAskedForExactly) {
     const SoundRow rows[] = {
         {"asked for", {u"-completionSound"_s, u"YES"_s}, {}, 1},

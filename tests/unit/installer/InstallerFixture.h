@@ -52,6 +52,16 @@ protected:
         file.write(content);
     }
 
+    // Makes the bundle the installer's own, with the sound "Done" in it.
+    static void addDoneSound(FakePlatform &services, const QString &installer) {
+        const QString sound = installer + QStringLiteral("/Contents/Resources/Done.wav");
+        QDir().mkpath(QFileInfo(sound).path());
+        QFile file(sound);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        services.bundles.setMainBundle(installer);
+        services.sounds.files.insert(sound, {1000, 1, std::vector<float>(300, 0.1F)});
+    }
+
     // Makes the controller with the arguments behind the program's name. Does not start it up.
     InstallerWinController &controller(const QStringList &arguments = {}) {
         if (!m_controller) {

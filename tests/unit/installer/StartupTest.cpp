@@ -148,13 +148,13 @@ TEST_F(StartupTest, theBundlesIconIsFoundByItsExactNameToo) {
 }
 
 TEST_F(StartupTest, anInstallerInNoProductShowsASetUpError) {
-    platform.bundles.setMainBundle(u"/nowhere/VelmoraInstaller.app"_s);
+    addDoneSound(platform, path(u"Elsewhere/VelmoraInstaller.app"_s));
     start({u"-completionSound"_s, u"YES"_s});
     EXPECT_EQ(text("introField"), u"missing source path"_s);
     EXPECT_EQ(controller().window().windowTitle(), u""_s);
     EXPECT_EQ(title("installButton"), u"OK"_s);
     EXPECT_FALSE(shown("cancelButton"));
-    EXPECT_EQ(platform.workspace.beeps, 1);
+    EXPECT_EQ(platform.sounds.plays().size(), 1U);
     EXPECT_TRUE(platform.log.lines().contains(u"missing source path"_s));
     EXPECT_TRUE(controller().window().isVisible());
 }
