@@ -30,8 +30,8 @@ enum class SoundForm {
 // The form of the file with this name: "ulw" files have no header.
 SoundForm soundFormOfFile(const QString &path);
 
-// Decodes a whole sound: AIFF and AIFF-C, WAVE, Sun/NeXT audio, MPEG layer 3, raw mu-law, and what
-// else libsndfile reads. `name` stands in errors. Fails on anything else, on more than
+// Decodes a whole sound: AIFF and AIFF-C, WAVE, Sun/NeXT audio, raw mu-law and what else libsndfile
+// reads, and MPEG layer 3. `name` stands in errors. Fails on anything else, on more than
 // maximumSoundValues, and when a stop was requested. Thread: any.
 Result<SoundSamples> decodeSound(const QByteArray &content, SoundForm form, const QString &name,
                                  const std::stop_token &stop = {});

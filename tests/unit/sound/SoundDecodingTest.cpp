@@ -140,6 +140,30 @@ TEST_F(SoundDecodingTest, aHeaderThatPromisesTooMuchIsNotBelieved) {
     EXPECT_NEAR(sound->duration().count(), 0.1, 1e-3);
 }
 
+// The log is the standard error stream, and decoders like to complain there.
+TEST_F(SoundDecodingTest, aBrokenFileIsNoMatterForTheLog) {
+    ASSERT_TRUE(writeTone(path(u"a.mp3"_s), SoundFileForm::Mp3, {}));
+    QByteArray content = contentOf(u"a.mp3"_s);
+    for (qsizetype i = 40; i < content.size(); i += 7)
+        content[i] = char(content.at(i) ^ 0x55);
+    write(u"broken.mp3"_s, content);
+    write(u"tagged.mp3"_s, "ID3" + QByteArray::fromHex("04000000000004") + "none" + content);
+    write(u"short.mp3"_s, contentOf(u"a.mp3"_s).left(100));
+    testing::internal::CaptureStderr();
+    for (const char *name : {"broken.mp3", "tagged.mp3", "short.mp3"})
+        refusal(QString::fromLatin1(name));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(SoundDecodingTest, tagsBeforeTheSoundArePassedOver) {
+    ASSERT_TRUE(writeTone(path(u"a.mp3"_s), SoundFileForm::Mp3, {}));
+    const QByteArray tag = "ID3" + QByteArray::fromHex("04000000000004") + "none";
+    write(u"tagged.mp3"_s, tag + tag + contentOf(u"a.mp3"_s));
+    EXPECT_EQ(refusal(u"tagged.mp3"_s), "");
+    write(u"tag.mp3"_s, "ID3" + QByteArray::fromHex("0400007f7f7f7f") + "none");
+    EXPECT_NE(refusal(u"tag.mp3"_s), ""); // longer than the file
+}
+
 TEST_F(SoundDecodingTest, nothingGetsLouderThanFull) {
     ASSERT_TRUE(writeTone(path(u"loud.wav"_s), SoundFileForm::WaveFloat, {.strength = 1000.0}));
     QByteArray content = contentOf(u"loud.wav"_s);
