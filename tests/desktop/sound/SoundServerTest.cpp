@@ -99,6 +99,7 @@ protected:
                                    .applicationEvents = fakes.applicationEvents,
                                    .accessibility = fakes.accessibility,
                                    .authorization = fakes.authorization,
+                                   .keyboardLayout = fakes.keyboardLayout,
                                    .sounds = sounds};
     const zt::ScopedPlatform current{services};
 

@@ -86,6 +86,7 @@ protected:
                                        .applicationEvents = platform.applicationEvents,
                                        .accessibility = platform.accessibility,
                                        .authorization = platform.authorization,
+                                       .keyboardLayout = platform.keyboardLayout,
                                        .sounds = *sounds};
         const zt::ScopedPlatform current(services);
         SoundExtensions::platformChanged();
