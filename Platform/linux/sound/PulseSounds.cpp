@@ -27,6 +27,7 @@ PulseSounds::~PulseSounds() {
     std::list<BackgroundTask> tasks;
     {
         const std::scoped_lock lock(m_mutex);
+        m_isEnding = true;
         conversation = m_conversation;
         tasks.swap(m_tasks);
     }
@@ -69,7 +70,10 @@ PulseSounds::Question PulseSounds::question() {
     if (!m_question.query || m_question.query->isAnswered()) {
         m_question = {std::make_shared<PulseQuery>(),
                       std::chrono::steady_clock::now() + m_patience.forAnswer};
-        conversation()->add(m_question.query);
+        if (m_isEnding)
+            m_question.query->fail();
+        else
+            conversation()->add(m_question.query);
     }
     return m_question;
 }
@@ -112,10 +116,14 @@ std::shared_ptr<PlayedSound> PulseSounds::play(SoundToPlay sound) {
     std::shared_ptr<PulseConversation> conversation;
     {
         const std::scoped_lock lock(m_mutex);
-        conversation = this->conversation();
+        conversation = m_isEnding ? nullptr : this->conversation();
     }
     const auto play = std::make_shared<PulsePlay>(
         std::move(sound), conversation, std::chrono::steady_clock::now() + m_patience.forBeginning);
+    if (!conversation) {
+        play->stop();
+        return play;
+    }
     startTask([play, conversation](const std::stop_token &stop) {
         const std::stop_callback stopped(stop, [&play] { play->stop(); });
         if (play->load())

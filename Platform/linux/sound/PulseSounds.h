@@ -73,7 +73,8 @@ private:
     const Patience m_patience;
     std::mutex m_mutex;
     std::shared_ptr<PulseConversation> m_conversation;
-    Question m_question; // the latest one
+    bool m_isEnding = false; // what background tasks still ask for is refused
+    Question m_question;     // the latest one
     std::list<BackgroundTask> m_tasks;
 };
 
