@@ -59,6 +59,7 @@ private:
 
     zt::StagedCopySettings settings() const {
         return {.durability = m_services.durability,
+                .proof = m_services.proof,
                 .rights = m_services.rights,
                 .readAs = m_plan.readAs,
                 .stop = m_services.stop,

@@ -51,6 +51,8 @@ struct InstallServices {
 
     zt::Durability durability = zt::Durability::Durable;
 
+    zt::Proof proof = zt::Proof::None; // of all that is copied
+
     // Folders that count as always there: one of them is made, for all to read, when it is missing
     // and the destination lies directly in it.
     std::vector<std::string> guaranteedFolders = {"/Applications"};

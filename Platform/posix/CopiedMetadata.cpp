@@ -81,6 +81,15 @@ bool meansCannotKeep(int code) {
            code == ERANGE || code == EINVAL;
 }
 
+bool isTakenOver(std::string_view attribute, CopiedRights rights) {
+    return rights == CopiedRights::All || attribute.starts_with("user.");
+}
+
+mode_t modeWithoutLentRights(const struct stat &original) {
+    const mode_t ofOwner = S_ISDIR(original.st_mode) ? S_IRWXU : S_IRUSR | S_IWUSR;
+    return (original.st_mode & sharedBits) | ofOwner;
+}
+
 std::array<timespec, 2> timesOf(const struct stat &status) {
     return {status.st_atim, status.st_mtim};
 }
@@ -103,6 +112,44 @@ CopiedMetadata::CopiedMetadata(const struct stat &newItem, CopiedRights rights,
 mode_t CopiedMetadata::creationMode(const struct stat &original, CopiedRights rights) {
     const mode_t taken = rights == CopiedRights::All ? permissionBits : sharedBits;
     return (original.st_mode & taken) | (S_ISDIR(original.st_mode) ? S_IRWXU : S_IWUSR);
+}
+
+bool CopiedMetadata::isModeOfCopy(const struct stat &original, const struct stat &copy,
+                                  CopiedRights rights) {
+    const mode_t mode = original.st_mode & ~static_cast<mode_t>(S_IFMT);
+    const mode_t found = copy.st_mode & ~static_cast<mode_t>(S_IFMT);
+    if (rights == CopiedRights::ReadingAndRunning)
+        return found == modeWithoutLentRights(original);
+    constexpr mode_t lendingBits = S_ISUID | S_ISGID;
+    return (found & ~lendingBits) == (mode & ~lendingBits) && (found & ~mode) == 0;
+}
+
+Result<std::string>
+CopiedMetadata::differingAttribute(int original, int copy, CopiedRights rights,
+                                   const std::optional<FileSystemIdentity> &writer) {
+    const Result<std::string> names = attributeNames(original);
+    if (!names)
+        return names.error();
+    std::string ofOriginal(names->empty() ? 0 : maximumAttributeSize, '\0');
+    std::string ofCopy(names->empty() ? 0 : maximumAttributeSize, '\0');
+    for (std::size_t place = 0; place < names->size();) {
+        std::string name = names->c_str() + place;
+        place += name.size() + 1;
+        if (needsPrivilege(name) || !isTakenOver(name, rights))
+            continue;
+        const ssize_t size =
+            ::fgetxattr(original, name.c_str(), ofOriginal.data(), ofOriginal.size());
+        if (size < 0)
+            return Error::fromErrno("read the attribute " + name + " of", {});
+        const ActingAs writing(writer);
+        const ssize_t found = ::fgetxattr(copy, name.c_str(), ofCopy.data(), ofCopy.size());
+        if (found < 0 && (errno == ENODATA || errno == ENOTSUP))
+            continue;
+        if (found != size || ofOriginal.compare(0, static_cast<std::size_t>(size), ofCopy, 0,
+                                                static_cast<std::size_t>(size)) != 0)
+            return name;
+    }
+    return std::string();
 }
 
 bool CopiedMetadata::mayGive(gid_t group) const {
@@ -149,19 +196,13 @@ bool CopiedMetadata::needsMode(const struct stat &status, mode_t mode,
 
 mode_t CopiedMetadata::modeOf(const struct stat &status, const Ownership &ownership) const {
     mode_t mode = status.st_mode & ~static_cast<mode_t>(S_IFMT);
-    if (m_rights == CopiedRights::ReadingAndRunning) {
-        const mode_t ofOwner = S_ISDIR(status.st_mode) ? S_IRWXU : S_IRUSR | S_IWUSR;
-        return (mode & sharedBits) | ofOwner;
-    }
+    if (m_rights == CopiedRights::ReadingAndRunning)
+        return modeWithoutLentRights(status);
     if (!ownership.userIsKept)
         mode &= ~static_cast<mode_t>(S_ISUID);
     if (!ownership.groupIsKept && !S_ISDIR(status.st_mode))
         mode &= ~static_cast<mode_t>(S_ISGID);
     return mode;
-}
-
-bool CopiedMetadata::takesOver(std::string_view attribute) const {
-    return m_rights == CopiedRights::All || attribute.starts_with("user.");
 }
 
 Result<void> CopiedMetadata::copyAttribute(int original, int copy, const std::string &name) const {
@@ -196,7 +237,7 @@ Result<void> CopiedMetadata::copyAttributes(int original, int copy, const std::s
     for (std::size_t place = 0; place < names.size();) {
         const std::string name = names.c_str() + place;
         place += name.size() + 1;
-        if (isAccessList(name) != accessLists || !takesOver(name))
+        if (isAccessList(name) != accessLists || !isTakenOver(name, m_rights))
             continue;
         if (Result<void> copied = copyAttribute(original, copy, name); !copied)
             return copied;

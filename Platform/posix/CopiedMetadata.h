@@ -35,6 +35,16 @@ public:
     // mode afterwards is seldom needed.
     static mode_t creationMode(const struct stat &original, CopiedRights rights);
 
+    // Whether a copy's mode is one that apply() gives. Bits that lend rights may be missing, since
+    // not every process may give them.
+    static bool isModeOfCopy(const struct stat &original, const struct stat &copy,
+                             CopiedRights rights);
+
+    // The name of an attribute or access list that the open original has and the open copy has with
+    // another value; empty when there is none. One that apply() may have left out can be missing.
+    static Result<std::string> differingAttribute(int original, int copy, CopiedRights rights,
+                                                  const std::optional<FileSystemIdentity> &writer);
+
     // Sets everything on an open copy that was made with creationMode() and is otherwise complete.
     // The original is read as this thread. On failure the error names the operation, not the
     // object.
@@ -53,7 +63,6 @@ private:
     Result<Ownership> applyOwner(int copy, const struct stat &status) const;
     Result<Ownership> applyOwnOwner(int copy) const;
     bool mayGive(gid_t group) const;
-    bool takesOver(std::string_view attribute) const;
     mode_t modeOf(const struct stat &status, const Ownership &ownership) const;
     bool needsMode(const struct stat &status, mode_t mode, const Ownership &ownership) const;
     Result<void> applyMode(int copy, const struct stat &status, const Ownership &ownership) const;

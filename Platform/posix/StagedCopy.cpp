@@ -3,6 +3,7 @@
 
 #include "Platform/posix/StagedCopy.h"
 
+#include "Platform/posix/CopyVerification.h"
 #include "Platform/posix/SystemCalls.h"
 #include "Platform/posix/TreeWalk.h"
 
@@ -34,6 +35,16 @@ Result<StagedCopy> StagedCopy::make(const ItemPlace &source, const ItemPlace &ta
     // the whole file system once costs far less than waiting for each file.
     if (settings.durability == Durability::Durable && !flushFileSystem(folder->descriptor()))
         return Error::fromErrno("write", target.path);
+    if (settings.proof == Proof::Compared) {
+        const Result<void> same =
+            verifyCopy({.source = source,
+                        .copy = {folder->descriptor(), stagedName, target.path},
+                        .rights = settings.rights,
+                        .readAs = settings.readAs,
+                        .stop = settings.stop});
+        if (!same)
+            return same.error();
+    }
     return StagedCopy(*std::move(folder), settings);
 }
 

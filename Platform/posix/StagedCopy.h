@@ -20,8 +20,13 @@ namespace zt {
 // Whether a step waits until what it did would outlast a power failure.
 enum class Durability { Durable, Relaxed };
 
+// Whether a copy is compared with its original before it appears. That reads both once more; it is
+// worth it where the original's medium may read differently each time.
+enum class Proof { None, Compared };
+
 struct StagedCopySettings {
     Durability durability = Durability::Durable;
+    Proof proof = Proof::None;                               // see verifyCopy()
     CopiedRights rights = CopiedRights::All;                 // see TreeCopyRequest
     std::optional<FileSystemIdentity> readAs = {};           // see TreeCopyRequest
     std::stop_token stop = {};                               // see TreeCopyRequest

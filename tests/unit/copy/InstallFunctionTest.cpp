@@ -210,6 +210,24 @@ TEST_F(InstallFunctionTest, progressIsToldForTheProduct) {
     EXPECT_GT(last, 0U);
 }
 
+TEST_F(InstallFunctionTest, aCopyThatReadsDifferentlyThanItsSourceDoesNotAppear) {
+    InstallServices proving = services();
+    proving.proof = Proof::Compared;
+    EXPECT_EQ(install({m_source, m_destination, {}}, proving), InstallResult::Success);
+
+    // When all is copied, and before it is compared, a bit falls over.
+    proving.progress = [&](const CopyProgress &progress) {
+        for (const std::string &name : namesIn(m_world.path("Applications"))) {
+            if (StagingFolder::isName(name) && progress.bytesDone == progress.bytesInAll)
+                m_world.makeFile("Applications/" + name + "/item/Contents/version", "mew");
+        }
+    };
+    EXPECT_EQ(install({m_source, m_destination, {}}, proving), InstallResult::CopyFailed);
+    EXPECT_THAT(namesIn(m_world.path("Applications")), IsEmpty());
+    EXPECT_THAT(trashedVersions(), ElementsAre("new"));
+    EXPECT_THAT(m_log.front(), HasSubstr("is not that of the original"));
+}
+
 TEST_F(InstallFunctionTest, aStopBeforeAnythingChangesNothing) {
     makeProduct("Applications/Product.app", "old");
     std::stop_source stopping;

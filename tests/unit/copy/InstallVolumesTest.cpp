@@ -77,7 +77,9 @@ class MediumTest : public VolumeTest {};
 TEST_P(MediumTest, aProductIsInstalledFromAnImageThatCannotBeWritten) {
     withVolume([this]() -> std::string {
         const std::string product = m_world.path("volume/Product.app");
-        if (install({product, m_destination, {}}) != InstallResult::Success)
+        InstallServices proving = services();
+        proving.proof = Proof::Compared;
+        if (install({product, m_destination, {}}, proving) != InstallResult::Success)
             return ::testing::PrintToString(m_log);
         return difference(product, m_destination);
     });
@@ -103,6 +105,7 @@ TEST_P(TargetVolumeTest, aProductIsInstalledThere) {
         for (int round = 0; round < 2; ++round) {
             InstallServices durable = services();
             durable.durability = Durability::Durable;
+            durable.proof = Proof::Compared;
             if (install({m_source, m_destination, {}}, durable) != InstallResult::Success)
                 return ::testing::PrintToString(m_log);
             if (std::string found = difference(m_source, m_destination); !found.empty())
