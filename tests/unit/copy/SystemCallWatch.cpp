@@ -96,11 +96,22 @@ bool filterCalls(WatchedCalls calls) {
     ::_exit(body());
 }
 
+// Whether a stopped thread's descriptor is of a file or folder, and not a pipe's for instance: what
+// the sanitizers write for themselves goes through one.
+bool isInFileSystem(pid_t thread, unsigned long long descriptor) {
+    const std::string link =
+        "/proc/" + std::to_string(thread) + "/fd/" + std::to_string(static_cast<int>(descriptor));
+    char first = 0;
+    return ::readlink(link.c_str(), &first, 1) == 1 && first == '/';
+}
+
 // The call that a stopped thread is about to make; empty for one of the other kind.
-std::string nameOfCall(const user_regs_struct &registers, WatchedCalls calls) {
+std::string nameOfCall(pid_t thread, const user_regs_struct &registers, WatchedCalls calls) {
     const auto number = static_cast<long>(registers.orig_rax);
     const bool isChanging = calls == WatchedCalls::Changing;
     if (number == SYS_openat && ((registers.rdx & O_CREAT) != 0) != isChanging)
+        return {};
+    if ((number == SYS_write || number == SYS_read) && !isInFileSystem(thread, registers.rdi))
         return {};
     if (number == SYS_ioctl && registers.rsi != FICLONE)
         return {};
@@ -132,7 +143,7 @@ void Watch::stepIn(pid_t thread) {
     user_regs_struct registers = {};
     if (::ptrace(PTRACE_GETREGS, thread, nullptr, &registers) != 0)
         return;
-    const std::string name = nameOfCall(registers, m_calls);
+    const std::string name = nameOfCall(thread, registers, m_calls);
     if (name.empty())
         return;
     const CallFate fate = m_fate(++m_count, name);
