@@ -287,9 +287,10 @@ Result<void> CopyVerifier::run() {
     const std::optional<struct stat> status = statusAt(source.folder, source.name.c_str());
     if (!status)
         return Error::fromErrno("find", source.path);
-    if (!S_ISDIR(status->st_mode))
+    if (!S_ISDIR(status->st_mode)) {
         return compareItem({source.folder, source.name.c_str(), copy.folder, copy.name.c_str(),
                             source.path, copy.path});
+    }
     UniqueFd folder =
         openAt(source.folder, source.name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
     if (!folder)

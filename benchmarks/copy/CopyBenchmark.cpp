@@ -183,15 +183,17 @@ void CopyBenchmark::run() {
         std::puts("# the disk: the folder of the build");
         runPlain(*disk);
     }
-    if (const std::optional<Volume> volume = Volume::inMemory())
+    if (const std::optional<Volume> volume = Volume::inMemory()) {
         runPlain(*volume);
-    else
+    } else {
         std::puts("# tmpfs: not run, for there is none here");
+    }
     for (const char *kind : {"xfs", "btrfs"}) {
-        if (canMount)
+        if (canMount) {
             runClones(kind);
-        else
+        } else {
             std::printf("# clones_%s: not run, for only root may mount\n", kind);
+        }
     }
     print("memory", "peak_rss_mb", static_cast<double>(m_mostMemory) / (1024 * 1024));
 }

@@ -53,7 +53,7 @@ protected:
         const std::string outcome = withPrivateMounts([&]() -> std::string {
             if (!runFor(m_world.path("image"), m_world.path("volume"), GetParam().commands))
                 return cannotMake;
-            const std::string failure = body();
+            std::string failure = body();
             // What serves a volume from user space must not outlive the test.
             runFor({}, m_world.path("volume"), "umount \"$folder\"");
             return failure;
@@ -141,7 +141,9 @@ TEST_P(TargetVolumeTest, aHugeFileOfHolesFits) {
 }
 
 TEST_P(TargetVolumeTest, aVolumeThatIsFullIsToldAndHasNothingUnfinished) {
-    m_world.makeFile("medium/Product.app/large", std::string(400'000'000, 'x'));
+    for (int i = 0; i < 60; ++i)
+        m_world.makeFile("medium/Product.app/large/" + std::to_string(i),
+                         std::string(7'000'000, 'x'));
     withVolume([this]() -> std::string {
         m_destination = m_world.path("volume/Product.app");
         const auto before = namesIn(m_world.path("volume"));
@@ -180,7 +182,7 @@ protected:
         for (const std::string &trashed : trashedVersions())
             found += ' ' + trashed;
         runFor(m_world.path("image"), m_world.path("volume"),
-               "umount \"$folder-now\"; rm \"$image.now\"");
+               R"(umount "$folder-now"; rm "$image.now")");
         return found;
     }
 
@@ -211,9 +213,10 @@ protected:
                     const std::string found = afterPowerFailure();
                     ++moments;
                     if (found != "old in Trash:" && found != "new in Trash: old" &&
-                        found != "<missing> in Trash: old")
+                        found != "<missing> in Trash: old") {
                         wrong += "before call " + std::to_string(number) + ' ' + name + ": " +
                                  found + '\n';
+                    }
                 }
                 return CallFate{};
             });
