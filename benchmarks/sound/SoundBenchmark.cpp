@@ -68,11 +68,11 @@ public:
 
     double most() const { return *std::max_element(m_values.begin(), m_values.end()); }
 
-    // One figure, and the others as a remark.
-    void print(const char *metric, double figure) const {
+    // The median, and more as a remark.
+    void print(const char *metric) const {
         std::printf("# %s: median %.2f ms, at most %.2f, %zu runs\n", m_name.c_str(), median(),
                     most(), m_values.size());
-        zt::printBenchLine(m_name.c_str(), metric, figure);
+        zt::printBenchLine(m_name.c_str(), metric, median());
     }
 
 private:
@@ -142,7 +142,7 @@ void compareFirstSamples(const QString &file) {
         canberra.add(untilProgramIsHeard(u"canberra-gtk-play"_s, {u"--file="_s + file}));
     }
     for (const Figures *figures : {&cold, &warm, &ours, &paplay, &canberra})
-        figures->print("first_sample_ms", figures->median());
+        figures->print("first_sample_ms");
     zt::printBenchLine("sound.program_of_ours", "ratio_to_paplay", ours.median() / paplay.median());
     zt::printBenchLine("sound.program_of_ours", "ratio_to_canberra_gtk_play",
                        ours.median() / canberra.median());
@@ -170,8 +170,8 @@ void measureHoldUps(SoundServer &server, const QString &file) {
             measureHoldUp(file, playing, ending);
             one.after();
         }
-        playing.print("held_up_at_most_ms", playing.most());
-        ending.print("held_up_at_most_ms", ending.most());
+        playing.print("held_up_ms");
+        ending.print("held_up_ms");
     }
 }
 

@@ -5,7 +5,6 @@
 #include "Platform/linux/sound/SoundDecoders.h"
 
 #include <algorithm>
-#include <cstring>
 #include <memory>
 
 namespace zt {
@@ -45,7 +44,7 @@ private:
         MemoryFile &file = of(data);
         const sf_count_t there =
             std::clamp<sf_count_t>(count, 0, file.m_content.size() - file.m_position);
-        std::memcpy(bytes, file.m_content.data() + file.m_position, std::size_t(there));
+        std::copy_n(file.m_content.data() + file.m_position, there, static_cast<char *>(bytes));
         file.m_position += there;
         return there;
     }

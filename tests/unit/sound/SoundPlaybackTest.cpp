@@ -51,7 +51,7 @@ TEST_F(AlertVolumeTest, theSettingIsMappedByQuarters) {
 
 TEST_F(AlertVolumeTest, withoutAnySettingItIsFull) {
     EXPECT_EQ(SoundExtensions::alertVolume(), 1.0F);
-    set(QVariantList({0.5})); // has no value as a number
+    set(QVariantList{QVariant(0.5)}); // has no value as a number
     EXPECT_EQ(SoundExtensions::alertVolume(), 1.0F);
 }
 
