@@ -119,6 +119,47 @@ TEST_F(PrivilegedInstallTest, aMissingToolIsToldWithItsName) {
     EXPECT_EQ(agent.requests, 0);
 }
 
+namespace {
+
+struct ToolEnd {
+    const char *reason;
+    const char *lastCommand;
+    const char *ownLine;
+    const char *fixedLine;
+};
+
+void PrintTo(const ToolEnd &end, std::ostream *out) {
+    *out << end.reason;
+}
+
+} // namespace
+
+class ToolEndTest : public PrivilegedInstallTest, public testing::WithParamInterface<ToolEnd> {};
+
+TEST_P(ToolEndTest, isToldApart) {
+    const QString product = ownCopy(QDir::homePath() + u"/Downloads"_s);
+    const QString tool =
+        product + u"/Contents/Resources/VelmoraInstaller.app/Contents/Resources/train"_s;
+    QFile file(tool);
+    ASSERT_TRUE(file.remove() && file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("#!/bin/sh\necho started\n") + GetParam().lastCommand + '\n');
+    file.close();
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    start(product);
+    answer(Answer::TypesPassword);
+    pressInstall();
+    ASSERT_TRUE(isEventuallyLogged(failed));
+    EXPECT_TRUE(isLogged(QString::fromUtf8(GetParam().ownLine)));
+    EXPECT_TRUE(isLogged(QString::fromUtf8(GetParam().fixedLine)));
+}
+
+INSTANTIATE_TEST_SUITE_P(ATool, ToolEndTest,
+                         testing::Values(ToolEnd{"thatFails", "exit 2",
+                                                 "the tool failed (status 2)", "WEXITSTATUS"},
+                                         ToolEnd{"thatCrashes", "kill -SEGV $$",
+                                                 "the tool crashed (signal 11)", "!WIFEXITED"}),
+                         [](const auto &row) { return row.param.reason; });
+
 TEST_F(PrivilegedInstallTest, aToolThatOthersCouldExchangeRunsFromAPlaceOfTheUsersOwn) {
     const QString folder = QDir::homePath() + u"/shared"_s;
     const QString product = ownCopy(folder);
