@@ -54,6 +54,7 @@ public:
     std::optional<Object> object(quint64 index) const;
     std::optional<quint64> reference(const Object &container, quint64 position) const;
     std::optional<double> dateValue(const Object &date) const;
+    bool containsNul(const Object &text) const;
 
 private:
     explicit ObjectTable(QByteArrayView content) : m_content(content) {}
@@ -178,6 +179,15 @@ std::optional<double> ObjectTable::dateValue(const Object &date) const {
     return bits ? std::optional(std::bit_cast<double>(*bits)) : std::nullopt;
 }
 
+bool ObjectTable::containsNul(const Object &text) const {
+    const quint64 width = text.kind == Utf16Text ? 2 : 1;
+    for (quint64 i = 0; i < text.count; ++i) {
+        if (number(text.offset + i * width, width) == 0U)
+            return true;
+    }
+    return false;
+}
+
 // Visits every object once, its members before itself, and adds up what it unfolds to.
 class UnfoldedSize {
 public:
@@ -267,6 +277,9 @@ Result<void> UnfoldedSize::addMember(Visit &visit) {
         const auto key = m_table.object(*member);
         if (!key || (key->kind != AsciiText && key->kind != Utf16Text))
             return propertyListError("a key is not a text");
+        // The library takes the end of such a key for a mistake of its own, and ends the program.
+        if (m_table.containsNul(*key))
+            return propertyListError("a key contains a NUL character");
     }
     const Sum &added = m_sums[*member];
     Sum &sum = m_sums[visit.index];
