@@ -32,7 +32,7 @@ protected:
                 return copied.error().text();
             rusage usage = {};
             ::getrusage(RUSAGE_SELF, &usage);
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef VELMORA_SANITIZED
             return "";
 #else
             return usage.ru_maxrss <= 32 * mebibyteInKibibytes

@@ -15,7 +15,7 @@ long allocationCount() {
     return count;
 }
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef VELMORA_SANITIZED
 
 // The sanitizer has its own functions in their place, and tells of their calls.
 extern "C" int __sanitizer_install_malloc_and_free_hooks( // NOLINT(bugprone-reserved-identifier)
