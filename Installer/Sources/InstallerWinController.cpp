@@ -35,20 +35,31 @@ InstallerWinController::InstallerWinController(Environment environment)
     m_ui.pathField->setFont(pathFont);
     const int helpButtonHeight = m_ui.helpButton->sizeHint().height();
     m_ui.helpButton->setFixedWidth(helpButtonHeight + helpButtonHeight / 2);
-    QSizePolicy progressPolicy = m_ui.progressIndicator->sizePolicy();
-    progressPolicy.setRetainSizeWhenHidden(true);
-    m_ui.progressIndicator->setSizePolicy(progressPolicy);
+    // Nothing is to move when these come and go.
+    for (QWidget *view : {static_cast<QWidget *>(m_ui.progressIndicator),
+                          static_cast<QWidget *>(m_ui.stopButton)}) {
+        QSizePolicy policy = view->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        view->setSizePolicy(policy);
+    }
     animateProgress(Progress::Stopped);
+    hideCopyProgress();
 
     m_heldKeys.watch(*m_ui.installButton);
     connect(m_ui.installButton, &QPushButton::clicked, this, &InstallerWinController::install);
     connect(m_ui.cancelButton, &QPushButton::clicked, this, &InstallerWinController::cancel);
+    connect(m_ui.stopButton, &QPushButton::clicked, this, [this] {
+        m_ui.stopButton->setEnabled(false);
+        stopCopying();
+    });
     connect(m_ui.helpButton, &QPushButton::clicked, this,
             &InstallerWinController::openDocumentation);
     connect(m_ui.readMeTextView, &QTextBrowser::anchorClicked, this,
             [this](const QUrl &link) { m_platform.workspace.openUrl(link); });
     auto *escape = new QShortcut(Qt::Key_Escape, &m_window);
-    connect(escape, &QShortcut::activated, m_ui.cancelButton, &QPushButton::click);
+    connect(escape, &QShortcut::activated, this, [this] {
+        (m_ui.stopButton->isVisible() ? m_ui.stopButton : m_ui.cancelButton)->click();
+    });
 }
 
 InstallerWinController::~InstallerWinController() {

@@ -19,9 +19,14 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <thread>
 
 class QMessageBox;
+
+namespace zt {
+struct CopyProgress;
+}
 
 // One for each process. Thread: main, unless an operation says otherwise.
 class InstallerWinController final : public QObject {
@@ -109,6 +114,9 @@ public:
     enum class Progress { Running, Stopped };
     void animateProgress(Progress progress);
 
+    // Stops the copy, as long as the product has not appeared at its destination. Thread: any.
+    void stopCopying();
+
     // Shows the outcome of an installation: no message for success, else the message, empty to show
     // none.
     void installationFinished(const std::optional<QString> &message);
@@ -135,6 +143,12 @@ private:
     void followAppearance();
     void colorMessageField();
 
+    // Has the operation run on the main thread, without waiting for it. Thread: any.
+    template <typename Operation>
+    void onMainThread(Operation operation) {
+        QMetaObject::invokeMethod(this, std::move(operation), Qt::QueuedConnection);
+    }
+
     // The installation. Thread: install.
     void installThread(const std::stop_token &stop);
     std::optional<QString> quitRunningCopies(const std::stop_token &stop) const;
@@ -144,6 +158,8 @@ private:
     QString failureMessage(const QString &messageKey) const;
 
     bool wantsDoneSound() const;
+    void showCopyProgress(const zt::CopyProgress &progress);
+    void hideCopyProgress();
     void applyTimedQuit();
     void announce(QWidget *field);
 
@@ -159,5 +175,7 @@ private:
     bool m_finished = false;
     HeldKeys m_heldKeys;
     bool m_forcesAuthorization = false; // set before the install thread starts
+    std::stop_source m_copyStop;        // likewise
+    bool m_hadEarlierCopy = false;      // the install thread's own
     std::jthread m_installThread;
 };

@@ -76,6 +76,9 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
                        .wrapper = std::nullopt};
     if (m_arguments.contains(ZTInstallerKeyWrapperPath))
         paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
+    const QFileInfo earlierCopy(argument(ZTInstallerKeyDestinationPath).value_or(QString()));
+    m_hadEarlierCopy = earlierCopy.exists() || earlierCopy.isSymLink();
+    const std::stop_callback passOn(stop, [this] { m_copyStop.request_stop(); });
     const InstallResult result = InstallApplication(
         paths, {.trash = m_platform.trash,
                 .log = [this](std::string_view line) { m_platform.log.writeLine(line); },
@@ -83,7 +86,12 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
                     [this](const std::string &path) {
                         m_platform.workspace.noteFileSystemChanged(QFile::decodeName(path.c_str()));
                     },
-                .stop = stop});
+                .stop = m_copyStop.get_token(),
+                .progress =
+                    [this](const zt::CopyProgress &progress) {
+                        onMainThread([this, progress] { showCopyProgress(progress); });
+                    }});
+    onMainThread([this] { hideCopyProgress(); });
     switch (result) {
     case InstallResult::Success:
         return std::nullopt;
@@ -92,6 +100,8 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
     case InstallResult::CopyFailed:
         break;
     }
+    if (m_copyStop.stop_requested())
+        return u"The installation was stopped."_s;
     return u"Installation failed."_s;
 }
 
@@ -102,12 +112,8 @@ bool InstallerWinController::authorizedInstall(const QString &source, const QStr
         *canceled = false;
     if (to.trimmed().isEmpty() || source.trimmed().isEmpty())
         return false;
-    const auto showProgress = [this](Progress progress) {
-        QMetaObject::invokeMethod(
-            this, [this, progress] { animateProgress(progress); }, Qt::QueuedConnection);
-    };
     // Nothing is to move while the system's own dialog waits for an answer.
-    showProgress(Progress::Stopped);
+    onMainThread([this] { animateProgress(Progress::Stopped); });
     const auto authorization = m_platform.authorization.create();
     if (!authorization)
         return false;
@@ -124,7 +130,7 @@ bool InstallerWinController::authorizedInstall(const QString &source, const QStr
             *canceled = status == zt::AuthorizationStatus::canceled;
         return false;
     }
-    showProgress(Progress::Running);
+    onMainThread([this] { animateProgress(Progress::Running); });
     return AuthorizedExecute(*authorization, command) == 0;
 }
 
@@ -132,12 +138,9 @@ bool InstallerWinController::authorizedInstall(const QString &source, const QStr
 bool InstallerWinController::hasIcon(const QString &path, const std::stop_token &stop) {
     const auto answer = std::make_shared<std::promise<bool>>();
     std::future<bool> found = answer->get_future();
-    QMetaObject::invokeMethod(
-        this,
-        [this, path, answer] {
-            answer->set_value(!m_platform.workspace.iconForFile(path).isNull());
-        },
-        Qt::QueuedConnection);
+    onMainThread([this, path, answer] {
+        answer->set_value(!m_platform.workspace.iconForFile(path).isNull());
+    });
     // The main thread may be waiting for this one to end.
     while (found.wait_for(20ms) != std::future_status::ready) {
         if (stop.stop_requested())

@@ -11,6 +11,7 @@
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -25,6 +26,8 @@ void InstallerWinController::install() {
         return;
     }
     m_forcesAuthorization = m_heldKeys.optionWasHeld();
+    m_copyStop = {};
+    m_ui.stopButton->setEnabled(true);
     m_ui.installButton->setEnabled(false);
     m_ui.cancelButton->setEnabled(false);
     // While the product is copied the sound server is found, so that the end does not wait for it.
@@ -42,14 +45,7 @@ void InstallerWinController::cancel() {
     QApplication::quit();
 }
 
-void InstallerWinController::animateProgress(Progress progress) {
-    m_ui.progressIndicator->setVisible(progress == Progress::Running);
-}
-
 void InstallerWinController::installThread(const std::stop_token &stop) {
-    const auto onMainThread = [this](auto operation) {
-        QMetaObject::invokeMethod(this, std::move(operation), Qt::QueuedConnection);
-    };
     ZTLog("Install");
     onMainThread([this] { animateProgress(Progress::Running); });
     std::optional<QString> message;
@@ -84,6 +80,16 @@ InstallerWinController::quitRunningCopies(const std::stop_token &stop) const {
 
 QString InstallerWinController::failureMessage(const QString &messageKey) const {
     QString message = ZTFormat(localizedString(messageKey.toUtf8().constData()), productName());
+    if (m_copyStop.stop_requested()) {
+        // Whoever stops has changed their mind, and has to know what became of what they had.
+        const QString destination = argument(ZTInstallerKeyDestinationPath).value_or(QString());
+        if (m_hadEarlierCopy && !QFileInfo::exists(destination)) {
+            message += ZTFormat(
+                "\r%@", ZTFormat(localizedString("The earlier copy of %1$@ is in the Trash."),
+                                 productName()));
+        }
+        return message;
+    }
     // A wrapped product cannot be installed by copying one item.
     if (!m_arguments.contains(ZTInstallerKeyWrapperPath)) {
         message += ZTFormat("\r%@", ZTFormat(localizedString("Try installing %1$@ manually by "

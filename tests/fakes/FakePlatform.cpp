@@ -144,6 +144,8 @@ void FakeAppearance::setScheme(std::optional<Scheme> scheme) {
 }
 
 zt::Result<std::string> FakeTrash::moveToTrash(const std::string &path) {
+    if (whenAsked)
+        whenAsked();
     if (refuses)
         return zt::Error{"trash", path, "refused by the test"};
     const std::string target = folder + '/' + std::filesystem::path(path).filename().string();

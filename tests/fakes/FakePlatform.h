@@ -29,6 +29,7 @@
 #include <QMap>
 #include <QStringList>
 
+#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -167,8 +168,9 @@ class FakeTrash final : public zt::Trash {
 public:
     zt::Result<std::string> moveToTrash(const std::string &path) override;
 
-    std::string folder;   // where trashed items go; must exist
-    bool refuses = false; // answers an error instead
+    std::string folder;                   // where trashed items go; must exist
+    bool refuses = false;                 // answers an error instead
+    std::function<void()> whenAsked = {}; // called first
 };
 
 // All fakes, and the platform made of them.

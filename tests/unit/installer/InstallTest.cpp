@@ -6,6 +6,8 @@
 #include <QProgressBar>
 #include <QTabWidget>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 class InstallTest : public InstallerFixture {
@@ -73,6 +75,56 @@ TEST_F(InstallTest, aSecondTryCanSucceed) {
     EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
     EXPECT_FALSE(shown("messageField"));
     EXPECT_TRUE(QFileInfo::exists(path(u"Trash/Demo.app/old"_s)));
+}
+
+TEST_F(InstallTest, stoppingLeavesNothingUnfinishedAndTellsOfTheTrash) {
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    platform.trash.whenAsked = [this] { controller().stopCopying(); };
+    start();
+    install();
+    EXPECT_EQ(text("messageField"),
+              u"The installation was stopped.\rThe earlier copy of Demo is in the Trash."_s);
+    EXPECT_TRUE(QFileInfo::exists(path(u"Trash/Demo.app/old"_s)));
+    EXPECT_TRUE(
+        QDir(path(u"Applications"_s))
+            .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot));
+    EXPECT_TRUE(platform.log.lines().contains(u"User stopped copying"_s));
+}
+
+TEST_F(InstallTest, afterStoppingTheInstallationCanBeTriedAgain) {
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    platform.trash.whenAsked = [this] { controller().stopCopying(); };
+    start();
+    install();
+    install();
+    EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
+    EXPECT_FALSE(shown("stopButton"));
+}
+
+TEST_F(InstallTest, whatFailedIsToldEvenWhenItWasToBeStopped) {
+    makeFile(u"Disk/Suite/Demo.app/program"_s, "x");
+    makeFile(u"Applications/Suite/Demo.app/old"_s, "old");
+    platform.trash.refuses = true;
+    platform.trash.whenAsked = [this] { controller().stopCopying(); };
+    start({u"-sourcePath"_s, path(u"Disk/Suite/Demo.app"_s), u"-productCode"_s, u"DEMO"_s,
+           u"-destinationPath"_s, path(u"Applications/Suite/Demo.app"_s)});
+    install();
+    EXPECT_EQ(text("messageField"), u"Could not delete existing copy."_s);
+    EXPECT_TRUE(QFileInfo::exists(path(u"Applications/Suite/Demo.app/old"_s)));
+}
+
+TEST_F(InstallTest, theBarShowsHowMuchIsCopied) {
+    makeFile(u"Disk/Demo.app/Contents/Resources/picture"_s, QByteArray(3 << 20, 'x'));
+    start();
+    auto *bar = field<QProgressBar>("copyProgress");
+    QList<int> values;
+    QObject::connect(bar, &QProgressBar::valueChanged, bar, [&](int value) { values << value; });
+    install();
+    const auto full = std::ranges::find(values, bar->maximum());
+    EXPECT_NE(full, values.end());
+    EXPECT_TRUE(std::is_sorted(values.begin(), full));
+    EXPECT_FALSE(shown("copyProgress"));
+    EXPECT_FALSE(shown("stopButton"));
 }
 
 TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing) {
