@@ -13,15 +13,19 @@ class ApplicationEvents;
 class Authorization;
 class Bundles;
 class Clock;
+class FileSystems;
 class KeyboardLayout;
 class Log;
 class LoginItems;
+class MenuBarEvents;
+class Pasteboard;
 class ProcessManager;
 class RunningApplications;
 class Sounds;
 class SystemVersion;
 class Trash;
 class UserDefaults;
+class UserInput;
 class WindowSystem;
 class Workspace;
 
@@ -44,6 +48,10 @@ struct Platform {
     Authorization &authorization;
     KeyboardLayout &keyboardLayout;
     Sounds &sounds;
+    MenuBarEvents &menuBarEvents;
+    Pasteboard &pasteboard;
+    UserInput &userInput;
+    FileSystems &fileSystems;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

@@ -63,6 +63,14 @@ public:
     virtual std::optional<QString> bundleLocation(ProcessSerialNumber process) const = 0;
     virtual QVariantMap informationDictionary(ProcessSerialNumber process) const = 0;
 
+    // What the system knows of the process that launched this one, as informationDictionary() has
+    // it. "FileCreator" is "lgnw" where the session launched it because it is a login item. Empty
+    // when it cannot be told. Thread: any.
+    virtual QVariantMap launcherInformation(ProcessSerialNumber process) const = 0;
+
+    // Whether a debugger is attached to the process. Thread: any.
+    virtual bool isBeingDebugged(ProcessSerialNumber process) const = 0;
+
     // When the process with the id began, and the user processor time it has used, in seconds.
     // Thread: any.
     virtual std::optional<std::chrono::system_clock::time_point>

@@ -63,7 +63,7 @@ InstallerWinController::InstallerWinController(Environment environment)
 }
 
 InstallerWinController::~InstallerWinController() {
-    m_platform.appearance.setChangeListener({});
+    m_platform.appearance.setChangeListener(this, {});
     QApplication::setPalette(m_platformPalette);
 }
 
@@ -106,7 +106,7 @@ void InstallerWinController::followAppearance() {
         QApplication::setPalette(fits ? m_platformPalette : paletteForScheme(*scheme));
     };
     apply();
-    m_platform.appearance.setChangeListener([this, apply] {
+    m_platform.appearance.setChangeListener(this, [this, apply] {
         apply();
         colorMessageField();
     });

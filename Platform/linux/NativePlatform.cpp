@@ -12,12 +12,16 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/LinuxSystemVersion.h"
 #include "Platform/linux/LinuxUserDefaults.h"
+#include "Platform/linux/MountedFileSystems.h"
 #include "Platform/linux/PidfdRunningApplications.h"
 #include "Platform/linux/PolkitAuthorization.h"
 #include "Platform/linux/PortalAppearance.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/StandardErrorLog.h"
 #include "Platform/linux/X11KeyboardLayout.h"
+#include "Platform/linux/X11MenuBarEvents.h"
+#include "Platform/linux/X11Pasteboard.h"
+#include "Platform/linux/X11UserInput.h"
 #include "Platform/linux/X11WindowSystem.h"
 #include "Platform/linux/sound/PulseSounds.h"
 
@@ -77,6 +81,10 @@ struct NativePlatform::Services {
     AtSpiAccessibility accessibility;
     PolkitAuthorization authorization{log};
     X11KeyboardLayout keyboardLayout;
+    X11MenuBarEvents menuBarEvents;
+    X11Pasteboard pasteboard;
+    X11UserInput userInput;
+    MountedFileSystems fileSystems;
     PulseSounds sounds{soundFolders()}; // goes first, with tasks that use the others
     Platform platform{.log = log,
                       .clock = clock,
@@ -94,7 +102,11 @@ struct NativePlatform::Services {
                       .accessibility = accessibility,
                       .authorization = authorization,
                       .keyboardLayout = keyboardLayout,
-                      .sounds = sounds};
+                      .sounds = sounds,
+                      .menuBarEvents = menuBarEvents,
+                      .pasteboard = pasteboard,
+                      .userInput = userInput,
+                      .fileSystems = fileSystems};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

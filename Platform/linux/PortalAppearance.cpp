@@ -3,10 +3,14 @@
 
 #include "Platform/linux/PortalAppearance.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -19,16 +23,24 @@ const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
 const QString appearanceGroup = u"org.freedesktop.appearance"_s;
 const QString colorSchemeKey = u"color-scheme"_s;
+const QString accentColorKey = u"accent-color"_s;
 
 constexpr int firstAnswerTimeout = 100; // milliseconds
 constexpr int laterAnswerTimeout = 25'000;
 
-// The values of org.freedesktop.appearance color-scheme: 1 dark, 2 light, others no preference.
-std::optional<Appearance::Scheme> schemeOf(QVariant value) {
-    // The portal wraps the value once or twice, depending on its age.
+// Greys that desktops offer as accent colours are not without any colour at all.
+constexpr double greatestSaturationOfGrey = 0.3;
+
+// The portal wraps a value once or twice, depending on its age.
+QVariant unwrapped(QVariant value) {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
-    switch (value.toUInt()) {
+    return value;
+}
+
+// The values of org.freedesktop.appearance color-scheme: 1 dark, 2 light, others no preference.
+std::optional<Appearance::Scheme> schemeOf(const QVariant &value) {
+    switch (unwrapped(value).toUInt()) {
     case 1:
         return Appearance::Scheme::Dark;
     case 2:
@@ -36,6 +48,29 @@ std::optional<Appearance::Scheme> schemeOf(QVariant value) {
     default:
         return std::nullopt;
     }
+}
+
+// The value of org.freedesktop.appearance accent-color: red, green and blue, each from 0 to 1.
+// Numbers out of that range say that there is no such colour.
+Appearance::ControlTint tintOf(const QVariant &value) {
+    const QVariant content = unwrapped(value);
+    if (content.metaType() != QMetaType::fromType<QDBusArgument>())
+        return Appearance::ControlTint::Blue;
+    const auto colour = content.value<QDBusArgument>();
+    if (colour.currentSignature() != u"(ddd)")
+        return Appearance::ControlTint::Blue;
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    colour.beginStructure();
+    colour >> red >> green >> blue;
+    colour.endStructure();
+    const auto [least, greatest] = std::minmax({red, green, blue});
+    if (!(least >= 0 && greatest <= 1))
+        return Appearance::ControlTint::Blue;
+    return greatest - least < greatestSaturationOfGrey * greatest || greatest == 0
+               ? Appearance::ControlTint::Graphite
+               : Appearance::ControlTint::Blue;
 }
 
 } // namespace
@@ -48,7 +83,7 @@ PortalAppearance::PortalAppearance() {
         return;
     bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    m_firstAnswer = askPortal(firstAnswerTimeout);
+    m_firstAnswer = askPortal(colorSchemeKey, firstAnswerTimeout);
     auto *watcher = new QDBusPendingCallWatcher(*m_firstAnswer, this);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
@@ -59,7 +94,8 @@ PortalAppearance::PortalAppearance() {
         m_firstAnswer.reset();
         if (!late)
             return;
-        auto *second = new QDBusPendingCallWatcher(askPortal(laterAnswerTimeout), this);
+        auto *second =
+            new QDBusPendingCallWatcher(askPortal(colorSchemeKey, laterAnswerTimeout), this);
         QObject::connect(second, &QDBusPendingCallWatcher::finished, this, [this, second] {
             second->deleteLater();
             takeAnswer(*second);
@@ -77,20 +113,39 @@ std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
     return m_scheme;
 }
 
-void PortalAppearance::setChangeListener(std::function<void()> changed) {
-    m_changed = std::move(changed);
+Appearance::ControlTint PortalAppearance::controlTint() const {
+    if (!m_tint) {
+        QDBusPendingReply<QDBusVariant> reply = askPortal(accentColorKey, firstAnswerTimeout);
+        reply.waitForFinished();
+        m_tint = reply.isError() ? ControlTint::Blue : tintOf(QVariant::fromValue(reply.value()));
+    }
+    return *m_tint;
+}
+
+void PortalAppearance::setChangeListener(const void *owner, std::function<void()> changed) {
+    if (changed)
+        m_listeners[owner] = std::move(changed);
+    else
+        m_listeners.erase(owner);
 }
 
 void PortalAppearance::settingChanged(const QString &group, const QString &key,
                                       const QDBusVariant &value) {
-    if (group == appearanceGroup && key == colorSchemeKey)
+    if (group != appearanceGroup)
+        return;
+    if (key == colorSchemeKey) {
         setScheme(schemeOf(value.variant()));
+    } else if (key == accentColorKey) {
+        const ControlTint tint = tintOf(value.variant());
+        if (std::exchange(m_tint, tint) != tint)
+            tellListeners();
+    }
 }
 
-QDBusPendingCall PortalAppearance::askPortal(int timeoutMilliseconds) const {
+QDBusPendingCall PortalAppearance::askPortal(const QString &key, int timeoutMilliseconds) const {
     QDBusMessage question =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
-    question << appearanceGroup << colorSchemeKey;
+    question << appearanceGroup << key;
     return QDBusConnection::sessionBus().asyncCall(question, timeoutMilliseconds);
 }
 
@@ -105,8 +160,14 @@ void PortalAppearance::setScheme(std::optional<Scheme> scheme) {
     if (scheme == m_scheme)
         return;
     m_scheme = scheme;
-    if (m_changed)
-        m_changed();
+    tellListeners();
+}
+
+void PortalAppearance::tellListeners() const {
+    // A listener may add and remove some.
+    const auto listeners = m_listeners;
+    for (const auto &[owner, changed] : listeners)
+        changed();
 }
 
 } // namespace zt

@@ -3,13 +3,15 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The preferred colour scheme from the desktop portal's settings.
+// The preferred colour scheme and the accent colour from the desktop portal's settings.
 
 #include "Platform/Appearance.h"
 
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QObject>
+
+#include <map>
 
 namespace zt {
 
@@ -24,17 +26,23 @@ public:
     // a portal that is slow or hangs must not hold up a window. What it says later is told to the
     // listener.
     std::optional<Scheme> preferredScheme() const override;
-    void setChangeListener(std::function<void()> changed) override;
+
+    // Asks the portal the first time, for a tenth of a second at most. The tint is graphite when
+    // the accent colour is a grey.
+    ControlTint controlTint() const override;
+    void setChangeListener(const void *owner, std::function<void()> changed) override;
 
 private:
     Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
-    QDBusPendingCall askPortal(int timeoutMilliseconds) const;
+    QDBusPendingCall askPortal(const QString &key, int timeoutMilliseconds) const;
     void takeAnswer(const QDBusPendingCall &answer);
     void setScheme(std::optional<Scheme> scheme);
+    void tellListeners() const;
 
     std::optional<Scheme> m_scheme;
-    std::function<void()> m_changed;
-    std::optional<QDBusPendingCall> m_firstAnswer; // until it was taken
+    mutable std::optional<ControlTint> m_tint;                 // once it was asked for
+    std::map<const void *, std::function<void()>> m_listeners; // by owner
+    std::optional<QDBusPendingCall> m_firstAnswer;             // until it was taken
 };
 
 } // namespace zt

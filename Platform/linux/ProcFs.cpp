@@ -144,4 +144,9 @@ std::optional<uid_t> ProcFs::effectiveUser(std::int32_t pid) const {
     return parseEffectiveUser(readInto(buffer, m_root.get(), ProcessPath(pid, "status").text()));
 }
 
+std::optional<std::int32_t> ProcFs::tracer(std::int32_t pid) const {
+    std::array<char, 4096> buffer;
+    return parseTracer(readInto(buffer, m_root.get(), ProcessPath(pid, "status").text()));
+}
+
 } // namespace zt

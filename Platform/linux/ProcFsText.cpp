@@ -31,9 +31,20 @@ std::string_view takeUpTo(char separator, std::string_view &text) {
     return part;
 }
 
+// What stands behind the key at the beginning of a line.
+std::optional<std::string_view> valueOf(std::string_view key, std::string_view status) {
+    while (!status.empty()) {
+        const std::string_view line = takeUpTo('\n', status);
+        if (line.starts_with(key))
+            return line.substr(key.size());
+    }
+    return std::nullopt;
+}
+
 // The numbers of the fields, counted from 1 as in the kernel's documentation.
 enum Field : std::size_t {
     State = 3,
+    Parent = 4,
     UserTicks = 14,
     Threads = 20,
     StartTicks = 22,
@@ -73,10 +84,11 @@ std::optional<ProcStat> parseProcStat(std::string_view text) {
         fields[count++] = takeUpTo(' ', rest);
 
     const auto pid = parseNumber<std::int32_t>(text.substr(0, open));
+    const auto parent = parseNumber<std::int32_t>(fields[Parent]);
     const auto userTicks = parseNumber<std::uint64_t>(fields[UserTicks]);
     const auto threads = parseNumber<std::int32_t>(fields[Threads]);
     const auto startTicks = parseNumber<std::uint64_t>(fields[StartTicks]);
-    if (!pid || !userTicks || !threads || !startTicks || fields[State].size() != 1)
+    if (!pid || !parent || !userTicks || !threads || !startTicks || fields[State].size() != 1)
         return std::nullopt;
     // Old kernels write fewer fields; those that are missing are empty.
     std::uint64_t image = 0xCBF29CE484222325;
@@ -87,6 +99,7 @@ std::optional<ProcStat> parseProcStat(std::string_view text) {
     return ProcStat{.pid = *pid,
                     .name = std::string(text.substr(open + 2, close - open - 2)),
                     .state = fields[State].front(),
+                    .parent = *parent,
                     .threads = *threads,
                     .userTicks = *userTicks,
                     .startTicks = *startTicks,
@@ -101,16 +114,16 @@ std::vector<std::string> parseCommandLine(std::string_view text) {
 }
 
 std::optional<std::uint32_t> parseEffectiveUser(std::string_view status) {
-    constexpr std::string_view key = "Uid:\t";
-    while (!status.empty()) {
-        std::string_view line = takeUpTo('\n', status);
-        if (!line.starts_with(key))
-            continue;
-        line.remove_prefix(key.size());
-        takeUpTo('\t', line); // the real user
-        return parseNumber<std::uint32_t>(takeUpTo('\t', line));
-    }
-    return std::nullopt;
+    std::optional<std::string_view> users = valueOf("Uid:\t", status);
+    if (!users)
+        return std::nullopt;
+    takeUpTo('\t', *users); // the real user
+    return parseNumber<std::uint32_t>(takeUpTo('\t', *users));
+}
+
+std::optional<std::int32_t> parseTracer(std::string_view status) {
+    const std::optional<std::string_view> tracer = valueOf("TracerPid:\t", status);
+    return tracer ? parseNumber<std::int32_t>(*tracer) : std::nullopt;
 }
 
 std::optional<std::int32_t> parseLastProcessId(std::string_view loadAverages) {

@@ -18,6 +18,7 @@ struct ProcStat {
     std::int32_t pid = 0;
     std::string name; // at most 15 bytes of the program's or the main thread's name
     char state = 0;
+    std::int32_t parent = 0; // the process that started it, or that took it over since; 0 for none
     std::int32_t threads = 0;
     std::uint64_t userTicks = 0;
     std::uint64_t startTicks = 0; // since the system was booted
@@ -38,6 +39,9 @@ std::vector<std::string> parseCommandLine(std::string_view text);
 
 // The effective user in /proc/PID/status.
 std::optional<std::uint32_t> parseEffectiveUser(std::string_view status);
+
+// The process that traces it in /proc/PID/status, as debuggers do; 0 when there is none.
+std::optional<std::int32_t> parseTracer(std::string_view status);
 
 // The id that was given to a process last, in /proc/loadavg.
 std::optional<std::int32_t> parseLastProcessId(std::string_view loadAverages);

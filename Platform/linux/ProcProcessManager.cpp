@@ -168,6 +168,20 @@ QVariantMap ProcProcessManager::informationDictionary(ProcessSerialNumber proces
     return dictionary;
 }
 
+QVariantMap ProcProcessManager::launcherInformation(ProcessSerialNumber process) const {
+    const std::optional<ProcStat> stat = m_procFs.stat(processIdIn(process));
+    if (!stat || serialNumberOf(*stat) != process)
+        return {};
+    const std::optional<ProcessSerialNumber> parent = processWithPid(stat->parent);
+    return parent ? informationDictionary(*parent) : QVariantMap();
+}
+
+bool ProcProcessManager::isBeingDebugged(ProcessSerialNumber process) const {
+    const std::int32_t pid = processIdIn(process);
+    const std::optional<std::int32_t> tracer = m_procFs.tracer(pid);
+    return tracer.value_or(0) != 0 && processWithPid(pid) == process;
+}
+
 std::optional<std::chrono::system_clock::time_point>
 ProcProcessManager::startTime(std::int32_t pid) const {
     const std::optional<ProcStat> stat = pid > 0 ? m_procFs.stat(pid) : std::nullopt;

@@ -38,6 +38,8 @@ public:
     std::optional<QString> displayName(ProcessSerialNumber process) const override;
     std::optional<QString> bundleLocation(ProcessSerialNumber process) const override;
     QVariantMap informationDictionary(ProcessSerialNumber process) const override;
+    QVariantMap launcherInformation(ProcessSerialNumber process) const override;
+    bool isBeingDebugged(ProcessSerialNumber process) const override;
     std::optional<std::chrono::system_clock::time_point> startTime(std::int32_t pid) const override;
     std::optional<double> userProcessorTime(std::int32_t pid) const override;
     void wakeUp(ProcessSerialNumber process) override;

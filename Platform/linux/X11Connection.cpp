@@ -30,6 +30,11 @@ std::unique_ptr<X11Connection> X11Connection::open() {
     return opened->m_screen && opened->isOpen() ? std::move(opened) : nullptr;
 }
 
+std::unique_ptr<X11Connection> X11Connection::openForWholeSession() {
+    const char *const compositor = std::getenv("WAYLAND_DISPLAY");
+    return compositor && *compositor != '\0' ? nullptr : open();
+}
+
 X11Connection::X11Connection(XcbPointer<xcb_connection_t> connection, int screenNumber)
     : m_connection(std::move(connection))
     , m_screenNumber(screenNumber) {

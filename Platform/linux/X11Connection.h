@@ -28,6 +28,10 @@ public:
     // Null when there is no X server to talk to.
     static std::unique_ptr<X11Connection> open();
 
+    // The same for what concerns all programs of the session. Null also in a Wayland session: the X
+    // server in there sees only what programs do that still talk to it.
+    static std::unique_ptr<X11Connection> openForWholeSession();
+
     ~X11Connection();
     X11Connection(const X11Connection &) = delete;
     X11Connection &operator=(const X11Connection &) = delete;

@@ -5,11 +5,15 @@
 
 // System and version utilities: class operations without instances.
 
+#include "Platform/MenuBarEvents.h"
+
 #include "ZTStuff/ZTClasses/ZTCompatibility/Ordering.h"
 
 #include <QString>
 #include <QStringView>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 
 // The stage of a development letter: p 0, d 1, a 2, b 3, f 4, blank 5; any other unit 0.
@@ -69,4 +73,35 @@ public:
     static bool sierraOrNewer();
     static bool highSierraOrNewer();
     static bool mojaveOrNewer();
+
+    // The user's environment (ZTUtilitiesEnvironment.cpp, ZTUtilitiesMenuBar.cpp). Where the system
+    // cannot tell, the answer is the neutral one, and a line in the log says so once.
+
+    // Whether the menu bar is hidden because the program in front fills the screen. Begins to
+    // listen for that when it is first asked, and answers false until the first change after it.
+    static bool fullScreenMode();
+
+    // Forgets everything that was learnt from the platform before, for a program that has made
+    // another one the current platform.
+    static void platformChanged();
+
+private:
+    friend std::int32_t MonitorMenuBarEventHandler(zt::MenuBarEvents::Type event);
+    friend void InstallMenuBarEventMonitor();
+
+    // Class-wide state, used on the main thread alone.
+    static inline zt::MenuBarEvents::Handler menuBarEventHandler; // empty until it is installed
+    // True while the menu bar is hidden, in spite of its name.
+    static inline bool menuBarIsShown = false;
 };
+
+// The events that the menu-bar monitor wants: shown, hidden.
+inline constexpr std::array menuBarEventsWanted = {zt::MenuBarEvents::shown,
+                                                   zt::MenuBarEvents::hidden};
+inline constexpr std::size_t nMenuBarEventsWanted = menuBarEventsWanted.size();
+
+// Begins to listen for menu-bar events, once. Thread: main, as for the next.
+void InstallMenuBarEventMonitor();
+
+// Notes whether the menu bar is hidden, and lets the event travel on to other handlers.
+std::int32_t MonitorMenuBarEventHandler(zt::MenuBarEvents::Type event);

@@ -81,7 +81,11 @@ public:
                      .accessibility = native.accessibility,
                      .authorization = native.authorization,
                      .keyboardLayout = native.keyboardLayout,
-                     .sounds = native.sounds}
+                     .sounds = native.sounds,
+                     .menuBarEvents = native.menuBarEvents,
+                     .pasteboard = native.pasteboard,
+                     .userInput = native.userInput,
+                     .fileSystems = native.fileSystems}
         , m_current(m_services) {
         ZTProcess::platformChanged();
     }

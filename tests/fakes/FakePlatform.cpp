@@ -137,10 +137,18 @@ QStringList FakeWorkspace::applicationsFolders(Domain domain) const {
     return domain == Domain::Local ? localApplications : userApplications;
 }
 
+void FakeAppearance::setChangeListener(const void *owner, std::function<void()> changed) {
+    if (changed)
+        m_listeners[owner] = std::move(changed);
+    else
+        m_listeners.erase(owner);
+}
+
 void FakeAppearance::setScheme(std::optional<Scheme> scheme) {
     m_scheme = scheme;
-    if (m_changed)
-        m_changed();
+    const auto listeners = m_listeners;
+    for (const auto &[owner, changed] : listeners)
+        changed();
 }
 
 zt::Result<std::string> FakeTrash::moveToTrash(const std::string &path) {

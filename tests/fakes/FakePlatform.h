@@ -20,16 +20,21 @@
 #include "tests/fakes/FakeAccessibility.h"
 #include "tests/fakes/FakeApplicationEvents.h"
 #include "tests/fakes/FakeAuthorization.h"
+#include "tests/fakes/FakeFileSystems.h"
 #include "tests/fakes/FakeKeyboardLayout.h"
+#include "tests/fakes/FakeMenuBarEvents.h"
+#include "tests/fakes/FakePasteboard.h"
 #include "tests/fakes/FakeProcessManager.h"
 #include "tests/fakes/FakeRunningApplications.h"
 #include "tests/fakes/FakeSounds.h"
+#include "tests/fakes/FakeUserInput.h"
 #include "tests/fakes/FakeWindowSystem.h"
 
 #include <QMap>
 #include <QStringList>
 
 #include <functional>
+#include <map>
 #include <mutex>
 #include <vector>
 
@@ -153,14 +158,16 @@ private:
 class FakeAppearance final : public zt::Appearance {
 public:
     std::optional<Scheme> preferredScheme() const override { return m_scheme; }
-    void setChangeListener(std::function<void()> changed) override {
-        m_changed = std::move(changed);
-    }
+    ControlTint controlTint() const override { return tint; }
+    void setChangeListener(const void *owner, std::function<void()> changed) override;
     void setScheme(std::optional<Scheme> scheme);
+    std::size_t listenerCount() const { return m_listeners.size(); }
+
+    ControlTint tint = ControlTint::Blue;
 
 private:
     std::optional<Scheme> m_scheme;
-    std::function<void()> m_changed;
+    std::map<const void *, std::function<void()>> m_listeners; // by owner
 };
 
 // A Trash in a folder of the test's own.
@@ -192,6 +199,10 @@ struct FakePlatform {
     FakeAuthorization authorization;
     FakeKeyboardLayout keyboardLayout;
     FakeSounds sounds;
+    FakeMenuBarEvents menuBarEvents;
+    FakePasteboard pasteboard;
+    FakeUserInput userInput;
+    FakeFileSystems fileSystems;
     zt::Platform services{.log = log,
                           .clock = clock,
                           .bundles = bundles,
@@ -208,6 +219,10 @@ struct FakePlatform {
                           .accessibility = accessibility,
                           .authorization = authorization,
                           .keyboardLayout = keyboardLayout,
-                          .sounds = sounds};
+                          .sounds = sounds,
+                          .menuBarEvents = menuBarEvents,
+                          .pasteboard = pasteboard,
+                          .userInput = userInput,
+                          .fileSystems = fileSystems};
     zt::ScopedPlatform current{services};
 };

@@ -146,6 +146,16 @@ QVariantMap FakeProcessManager::informationDictionary(ProcessSerialNumber proces
     return running ? running->informationDictionary : QVariantMap();
 }
 
+QVariantMap FakeProcessManager::launcherInformation(ProcessSerialNumber process) const {
+    const std::optional<FakeProcess> running = runningProcess(process);
+    return running ? running->launcherInformation : QVariantMap();
+}
+
+bool FakeProcessManager::isBeingDebugged(ProcessSerialNumber process) const {
+    const std::optional<FakeProcess> running = runningProcess(process);
+    return running && running->isBeingDebugged;
+}
+
 std::optional<std::chrono::system_clock::time_point>
 FakeProcessManager::startTime(std::int32_t pid) const {
     const std::scoped_lock lock(m_mutex);

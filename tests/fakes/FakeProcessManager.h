@@ -19,6 +19,8 @@ struct FakeProcess {
     std::optional<QString> displayName = {};
     std::optional<QString> location = {};
     QVariantMap informationDictionary = {};
+    QVariantMap launcherInformation = {};
+    bool isBeingDebugged = false;
     std::chrono::system_clock::time_point start = {};
     double processorTime = 0.0;
     bool isApplication = true;
@@ -55,6 +57,8 @@ public:
     std::optional<QString> displayName(zt::ProcessSerialNumber process) const override;
     std::optional<QString> bundleLocation(zt::ProcessSerialNumber process) const override;
     QVariantMap informationDictionary(zt::ProcessSerialNumber process) const override;
+    QVariantMap launcherInformation(zt::ProcessSerialNumber process) const override;
+    bool isBeingDebugged(zt::ProcessSerialNumber process) const override;
     std::optional<std::chrono::system_clock::time_point> startTime(std::int32_t pid) const override;
     std::optional<double> userProcessorTime(std::int32_t pid) const override;
     void wakeUp(zt::ProcessSerialNumber process) override;

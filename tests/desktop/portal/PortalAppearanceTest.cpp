@@ -49,7 +49,7 @@ TEST_F(PortalAppearanceTest, aChangeIsTold) {
     zt::PortalAppearance appearance;
     EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Light);
     int changes = 0;
-    appearance.setChangeListener([&changes] { ++changes; });
+    appearance.setChangeListener(this, [&changes] { ++changes; });
     portal.write("scheme 1\n");
     ASSERT_TRUE(QTest::qWaitFor(
         [&appearance] { return appearance.preferredScheme() == Appearance::Scheme::Dark; }));
@@ -61,7 +61,7 @@ TEST_F(PortalAppearanceTest, aPortalThatAnswersLateIsHeardLate) {
     zt::PortalAppearance appearance;
     EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
     int changes = 0;
-    appearance.setChangeListener([&changes] { ++changes; });
+    appearance.setChangeListener(this, [&changes] { ++changes; });
     ASSERT_TRUE(QTest::qWaitFor(
         [&appearance] { return appearance.preferredScheme() == Appearance::Scheme::Dark; }));
     EXPECT_EQ(changes, 1);

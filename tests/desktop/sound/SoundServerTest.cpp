@@ -100,7 +100,11 @@ protected:
                                    .accessibility = fakes.accessibility,
                                    .authorization = fakes.authorization,
                                    .keyboardLayout = fakes.keyboardLayout,
-                                   .sounds = sounds};
+                                   .sounds = sounds,
+                                   .menuBarEvents = fakes.menuBarEvents,
+                                   .pasteboard = fakes.pasteboard,
+                                   .userInput = fakes.userInput,
+                                   .fileSystems = fakes.fileSystems};
     const zt::ScopedPlatform current{services};
 
 private:

@@ -114,7 +114,11 @@ protected:
                             .accessibility = m_fakes.accessibility,
                             .authorization = m_fakes.authorization,
                             .keyboardLayout = m_fakes.keyboardLayout,
-                            .sounds = m_fakes.sounds};
+                            .sounds = m_fakes.sounds,
+                            .menuBarEvents = m_fakes.menuBarEvents,
+                            .pasteboard = m_fakes.pasteboard,
+                            .userInput = m_fakes.userInput,
+                            .fileSystems = m_fakes.fileSystems};
     zt::ScopedPlatform m_current{m_services};
     std::mt19937 m_random{4711};
     std::vector<Running> m_running;

@@ -125,7 +125,11 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
                              .accessibility = fakes.accessibility,
                              .authorization = fakes.authorization,
                              .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds};
+                             .sounds = fakes.sounds,
+                             .menuBarEvents = fakes.menuBarEvents,
+                             .pasteboard = fakes.pasteboard,
+                             .userInput = fakes.userInput,
+                             .fileSystems = fakes.fileSystems};
     const zt::ScopedPlatform current(services);
     ZTProcess::platformChanged();
     ZTProcess::installNotifications();

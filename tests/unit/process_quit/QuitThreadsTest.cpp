@@ -106,7 +106,11 @@ protected:
                              .accessibility = fakes.accessibility,
                              .authorization = fakes.authorization,
                              .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds};
+                             .sounds = fakes.sounds,
+                             .menuBarEvents = fakes.menuBarEvents,
+                             .pasteboard = fakes.pasteboard,
+                             .userInput = fakes.userInput,
+                             .fileSystems = fakes.fileSystems};
     zt::ScopedPlatform current{services};
 };
 

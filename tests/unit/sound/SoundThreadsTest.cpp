@@ -87,7 +87,11 @@ protected:
                                        .accessibility = platform.accessibility,
                                        .authorization = platform.authorization,
                                        .keyboardLayout = platform.keyboardLayout,
-                                       .sounds = *sounds};
+                                       .sounds = *sounds,
+                                       .menuBarEvents = platform.menuBarEvents,
+                                       .pasteboard = platform.pasteboard,
+                                       .userInput = platform.userInput,
+                                       .fileSystems = platform.fileSystems};
         const zt::ScopedPlatform current(services);
         SoundExtensions::platformChanged();
         useSounds(platform.clock);

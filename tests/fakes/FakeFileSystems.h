@@ -1,0 +1,23 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Volumes for unit tests.
+
+#include "Platform/FileSystems.h"
+
+#include <QMap>
+
+// Knows the items that the test puts in.
+class FakeFileSystems final : public zt::FileSystems {
+public:
+    zt::Result<QString> typeNameFor(const QString &path) const override {
+        const auto found = typeNames.constFind(path);
+        if (found == typeNames.cend())
+            return zt::Error::fromErrno("statfs", path.toStdString(), ENOENT);
+        return *found;
+    }
+
+    QMap<QString, QString> typeNames; // by path
+};
