@@ -13,7 +13,8 @@
 
 namespace zt {
 
-// Thread: any, for all operations.
+// Thread: any, for all operations; but a setting of the interface's appearance is asked for on the
+// main thread.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;

@@ -36,15 +36,18 @@ QVariantMap parseArgumentDefaults(const QStringList &argumentVector) {
 }
 
 LinuxUserDefaults::LinuxUserDefaults(const QStringList &argumentVector, QString configurationFolder,
-                                     QString domain)
+                                     QString domain, SystemSettings systemSettings)
     : m_argumentDefaults(parseArgumentDefaults(argumentVector))
     , m_configurationFolder(std::move(configurationFolder))
-    , m_domain(std::move(domain)) {}
+    , m_domain(std::move(domain))
+    , m_systemSettings(std::move(systemSettings)) {}
 
 std::optional<QVariant> LinuxUserDefaults::objectForKey(const QString &key) const {
     if (const auto value = m_argumentDefaults.constFind(key); value != m_argumentDefaults.cend())
         return *value;
-    return objectForKey(key, m_domain);
+    if (const std::optional<QVariant> value = objectForKey(key, m_domain))
+        return value;
+    return m_systemSettings ? m_systemSettings(key) : std::nullopt;
 }
 
 std::optional<QVariant> LinuxUserDefaults::objectForKey(const QString &key,

@@ -3,12 +3,15 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// User defaults on Linux: the command line, then settings files in the user's configuration folder.
+// User defaults on Linux: the command line, then settings files in the user's configuration folder,
+// then the system's own settings.
 
 #include "Platform/UserDefaults.h"
 
 #include <QStringList>
 #include <QVariantMap>
+
+#include <functional>
 
 namespace zt {
 
@@ -21,10 +24,13 @@ QVariantMap parseArgumentDefaults(const QStringList &argumentVector);
 // so that a change takes effect at once.
 class LinuxUserDefaults final : public UserDefaults {
 public:
+    // What the system has set under a key for all applications.
+    using SystemSettings = std::function<std::optional<QVariant>(const QString &key)>;
+
     // `configurationFolder` is the user's, ~/.config by default; `domain` names the application's
-    // own settings, by its bundle identifier.
+    // own settings, by its bundle identifier. `systemSettings` is called on the thread that asks.
     LinuxUserDefaults(const QStringList &argumentVector, QString configurationFolder,
-                      QString domain);
+                      QString domain, SystemSettings systemSettings = {});
 
     std::optional<QVariant> objectForKey(const QString &key) const override;
     std::optional<QVariant> objectForKey(const QString &key,
@@ -34,6 +40,7 @@ private:
     QVariantMap m_argumentDefaults;
     QString m_configurationFolder;
     QString m_domain;
+    SystemSettings m_systemSettings;
 };
 
 } // namespace zt

@@ -18,6 +18,7 @@
 #include "Platform/linux/PortalAppearance.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/StandardErrorLog.h"
+#include "Platform/linux/SystemSettings.h"
 #include "Platform/linux/X11KeyboardLayout.h"
 #include "Platform/linux/X11MenuBarEvents.h"
 #include "Platform/linux/X11Pasteboard.h"
@@ -63,7 +64,8 @@ std::jthread beginPreparingTexts() {
 
 struct NativePlatform::Services {
     explicit Services(const QStringList &arguments)
-        : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle())) {}
+        : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle()),
+                       [this](const QString &key) { return systemSetting(key, appearance); }) {}
 
     StandardErrorLog log;
     EventLoopClock clock;
@@ -71,7 +73,7 @@ struct NativePlatform::Services {
     LinuxUserDefaults userDefaults;
     LinuxSystemVersion systemVersion;
     AutostartLoginItems loginItems{configurationFolder(), bundles};
-    PortalAppearance appearance;
+    PortalAppearance appearance{configurationFolder()};
     FreedesktopTrash trash{FreedesktopTrash::rootsOfThisUser()};
     X11WindowSystem windowSystem;
     DesktopWorkspace workspace{workspaceFolders(), {bundles, windowSystem, clock, log}};

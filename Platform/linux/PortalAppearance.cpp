@@ -3,6 +3,8 @@
 
 #include "Platform/linux/PortalAppearance.h"
 
+#include "Platform/linux/SettingsFiles.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -51,48 +53,59 @@ std::optional<Appearance::Scheme> schemeOf(const QVariant &value) {
 }
 
 // The value of org.freedesktop.appearance accent-color: red, green and blue, each from 0 to 1.
-// Numbers out of that range say that there is no such colour.
-Appearance::ControlTint tintOf(const QVariant &value) {
+// No value for anything else.
+std::optional<AccentColor> accentColorOf(const QVariant &value) {
     const QVariant content = unwrapped(value);
     if (content.metaType() != QMetaType::fromType<QDBusArgument>())
+        return std::nullopt;
+    // Taking values out of one that is not constant would write to it instead.
+    const auto argument = content.value<QDBusArgument>();
+    if (argument.currentSignature() != u"(ddd)")
+        return std::nullopt;
+    AccentColor color;
+    argument.beginStructure();
+    argument >> color.red >> color.green >> color.blue;
+    argument.endStructure();
+    return color;
+}
+
+// A colour with numbers out of range says that there is none.
+Appearance::ControlTint tintOf(const std::optional<AccentColor> &color) {
+    if (!color)
         return Appearance::ControlTint::Blue;
-    const auto colour = content.value<QDBusArgument>();
-    if (colour.currentSignature() != u"(ddd)")
-        return Appearance::ControlTint::Blue;
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    colour.beginStructure();
-    colour >> red >> green >> blue;
-    colour.endStructure();
-    const auto [least, greatest] = std::minmax({red, green, blue});
-    if (!(least >= 0 && greatest <= 1))
-        return Appearance::ControlTint::Blue;
-    return greatest - least < greatestSaturationOfGrey * greatest || greatest == 0
+    const auto [least, greatest] = std::minmax({color->red, color->green, color->blue});
+    const bool isColor = least >= 0 && greatest <= 1;
+    return isColor && greatest - least <= greatestSaturationOfGrey * greatest
                ? Appearance::ControlTint::Graphite
                : Appearance::ControlTint::Blue;
 }
 
+// Whether the portal has only not answered yet, which is another thing than having no answer.
+bool isLate(const QDBusError &error) {
+    return error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout;
+}
+
 } // namespace
 
-PortalAppearance::PortalAppearance() {
+PortalAppearance::PortalAppearance(QString configurationFolder)
+    : m_configurationFolder(std::move(configurationFolder)) {
     // Without this the bus refuses to deliver a signal that carries a variant.
     qRegisterMetaType<QDBusVariant>();
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+    if (!bus.isConnected()) {
+        m_isWithoutPortal = true;
         return;
+    }
     bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
     m_firstAnswer = askPortal(colorSchemeKey, firstAnswerTimeout);
     auto *watcher = new QDBusPendingCallWatcher(*m_firstAnswer, this);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
-        const bool late = watcher->error().type() == QDBusError::NoReply ||
-                          watcher->error().type() == QDBusError::Timeout;
         if (m_firstAnswer)
             takeAnswer(*watcher);
         m_firstAnswer.reset();
-        if (!late)
+        if (!isLate(watcher->error()))
             return;
         auto *second =
             new QDBusPendingCallWatcher(askPortal(colorSchemeKey, laterAnswerTimeout), this);
@@ -108,16 +121,23 @@ std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
         QDBusPendingCall answer = *m_firstAnswer;
         answer.waitForFinished();
         const QDBusPendingReply<QDBusVariant> reply = answer;
-        return reply.isError() ? std::nullopt : schemeOf(QVariant::fromValue(reply.value()));
+        if (!reply.isError())
+            return schemeOf(QVariant::fromValue(reply.value()));
+        return isLate(reply.error()) ? std::nullopt : schemeInSettingsFiles(m_configurationFolder);
     }
-    return m_scheme;
+    return m_isWithoutPortal ? schemeInSettingsFiles(m_configurationFolder) : m_scheme;
 }
 
 Appearance::ControlTint PortalAppearance::controlTint() const {
     if (!m_tint) {
         QDBusPendingReply<QDBusVariant> reply = askPortal(accentColorKey, firstAnswerTimeout);
         reply.waitForFinished();
-        m_tint = reply.isError() ? ControlTint::Blue : tintOf(QVariant::fromValue(reply.value()));
+        if (!reply.isError())
+            m_tint = tintOf(accentColorOf(QVariant::fromValue(reply.value())));
+        else if (!isLate(reply.error()))
+            return tintOf(accentColorInSettingsFiles(m_configurationFolder));
+        else
+            m_tint = ControlTint::Blue; // until the portal tells of a change
     }
     return *m_tint;
 }
@@ -136,7 +156,7 @@ void PortalAppearance::settingChanged(const QString &group, const QString &key,
     if (key == colorSchemeKey) {
         setScheme(schemeOf(value.variant()));
     } else if (key == accentColorKey) {
-        const ControlTint tint = tintOf(value.variant());
+        const ControlTint tint = tintOf(accentColorOf(value.variant()));
         if (std::exchange(m_tint, tint) != tint)
             tellListeners();
     }
@@ -153,10 +173,13 @@ void PortalAppearance::takeAnswer(const QDBusPendingCall &answer) {
     const QDBusPendingReply<QDBusVariant> reply = answer;
     if (!reply.isError())
         setScheme(schemeOf(QVariant::fromValue(reply.value())));
+    else
+        m_isWithoutPortal = !isLate(reply.error());
 }
 
 void PortalAppearance::setScheme(std::optional<Scheme> scheme) {
     m_firstAnswer.reset();
+    m_isWithoutPortal = false;
     if (scheme == m_scheme)
         return;
     m_scheme = scheme;

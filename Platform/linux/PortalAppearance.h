@@ -3,7 +3,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The preferred colour scheme and the accent colour from the desktop portal's settings.
+// The preferred colour scheme and the accent colour: from the desktop portal, or from settings
+// files where the portal does not have them.
 
 #include "Platform/Appearance.h"
 
@@ -19,12 +20,13 @@ class PortalAppearance final : public QObject, public Appearance {
     Q_OBJECT
 
 public:
-    // Asks the portal at once and goes on without waiting for the answer.
-    PortalAppearance();
+    // Asks the portal at once and goes on without waiting for the answer. `configurationFolder` is
+    // the user's, ~/.config by default.
+    explicit PortalAppearance(QString configurationFolder);
 
     // Waits for the first answer, but not longer than a tenth of a second after it was asked for:
     // a portal that is slow or hangs must not hold up a window. What it says later is told to the
-    // listener.
+    // listener. Settings files are read anew each time.
     std::optional<Scheme> preferredScheme() const override;
 
     // Asks the portal the first time, for a tenth of a second at most. The tint is graphite when
@@ -40,7 +42,9 @@ private:
     void tellListeners() const;
 
     std::optional<Scheme> m_scheme;
-    mutable std::optional<ControlTint> m_tint;                 // once it was asked for
+    mutable std::optional<ControlTint> m_tint; // once it was asked for
+    QString m_configurationFolder;
+    bool m_isWithoutPortal = false; // it has nothing to say about the scheme, so files are asked
     std::map<const void *, std::function<void()>> m_listeners; // by owner
     std::optional<QDBusPendingCall> m_firstAnswer;             // until it was taken
 };

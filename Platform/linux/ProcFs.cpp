@@ -144,6 +144,11 @@ std::optional<uid_t> ProcFs::effectiveUser(std::int32_t pid) const {
     return parseEffectiveUser(readInto(buffer, m_root.get(), ProcessPath(pid, "status").text()));
 }
 
+std::string ProcFs::controlGroups(std::int32_t pid) const {
+    std::array<char, 8192> buffer;
+    return std::string(readInto(buffer, m_root.get(), ProcessPath(pid, "cgroup").text()));
+}
+
 std::optional<std::int32_t> ProcFs::tracer(std::int32_t pid) const {
     std::array<char, 4096> buffer;
     return parseTracer(readInto(buffer, m_root.get(), ProcessPath(pid, "status").text()));

@@ -61,6 +61,9 @@ public:
     // The user whose rights the process has, also when it is protected from that user.
     std::optional<uid_t> effectiveUser(std::int32_t pid) const;
 
+    // The text that names the groups in which the process is counted and held.
+    std::string controlGroups(std::int32_t pid) const;
+
     // The process that traces it, as debuggers do; 0 when there is none.
     std::optional<std::int32_t> tracer(std::int32_t pid) const;
 

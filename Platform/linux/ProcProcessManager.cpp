@@ -4,6 +4,7 @@
 #include "Platform/linux/ProcProcessManager.h"
 
 #include "Platform/MacRoman.h"
+#include "Platform/linux/LoginItemLaunch.h"
 #include "Platform/linux/ProcSerialNumber.h"
 #include "Platform/linux/ProcessDescriptor.h"
 
@@ -173,7 +174,13 @@ QVariantMap ProcProcessManager::launcherInformation(ProcessSerialNumber process)
     if (!stat || serialNumberOf(*stat) != process)
         return {};
     const std::optional<ProcessSerialNumber> parent = processWithPid(stat->parent);
-    return parent ? informationDictionary(*parent) : QVariantMap();
+    const ProcPrograms::Pointer launcher = parent ? programOf(*parent) : nullptr;
+    if (!launcher)
+        return {};
+    QVariantMap dictionary = informationDictionary(*parent);
+    if (isLaunchOfLoginItem(launcher->name, m_procFs.controlGroups(stat->pid)))
+        dictionary.insert(u"FileCreator"_s, u"lgnw"_s);
+    return dictionary;
 }
 
 bool ProcProcessManager::isBeingDebugged(ProcessSerialNumber process) const {

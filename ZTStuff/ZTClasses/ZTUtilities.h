@@ -15,6 +15,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+
+class QIcon;
+class ZTProcess;
+struct Notification;
 
 // The stage of a development letter: p 0, d 1, a 2, b 3, f 4, blank 5; any other unit 0.
 int developmentStage(char16_t letter);
@@ -74,25 +79,58 @@ public:
     static bool highSierraOrNewer();
     static bool mojaveOrNewer();
 
-    // The user's environment (ZTUtilitiesEnvironment.cpp, ZTUtilitiesMenuBar.cpp). Where the system
-    // cannot tell, the answer is the neutral one, and a line in the log says so once.
+    // The user's environment. Where the system cannot tell, the answer is the neutral one, and a
+    // line in the log says so once.
+
+    // Begins, a second from now, to watch who changes the clipboard. A program that wants to know
+    // that calls this early; the first clipboardPublisherProcess() does it too late for what was
+    // copied before. Does nothing the second time. Thread: main, as for all that follow.
+    static void initialize();
+    static void installProcessWatcher();
+    // Notes whether the clipboard was changed while the process was in front that is not any more.
+    static void processSwitched(const Notification &notification);
+    // The process that put onto the clipboard what is there now, as far as it was watched; null
+    // when that is not known. Links ZTStuff::gui, as does systemTintImage().
+    static std::shared_ptr<ZTProcess> clipboardPublisherProcess();
+
+    // The address as this system can open it: where it is too old for today's secure connections,
+    // one that begins with "https:" begins with "http:" instead. Too old is a system
+    // before 10.13.0, or before the version from 100000 to 109999 that the setting "httpsMinSys"
+    // names.
+    static QString safeHTTPS(const QString &url);
 
     // Whether the menu bar is hidden because the program in front fills the screen. Begins to
     // listen for that when it is first asked, and answers false until the first change after it.
     static bool fullScreenMode();
 
+    // Whether the user wants dark menus, and whether this system has a dark interface for all of
+    // the window. Asked of the system each time, so that a change counts at once.
+    static bool darkMenuTheme();
+    static bool darkAppearance();
+    // What is called when the user changes it. Does nothing: the next question has the answer.
+    static void darkModeChanged(const Notification &notification);
+
+    // The picture of a tint that fits the user's controls, in the light or the dark interface.
+    static QIcon systemTintImage();
+
+    // Seconds since the user last touched a key, a button or the mouse; -1.0 when unknown.
+    static float idleTime();
+
+    // The system's name for the type of file system that holds the item; "" when unknown.
+    static QString fileSystemTypeFor(const QString &path);
+
+    // Whether the process that launched this application has that four-character creator code.
+    static bool wasLaunchedByProcess(const QString &creatorCode);
+    static bool wasLaunchedAsLoginItem();
+
+    static bool displayIsZoomed();
+
+    // Whether a debugger is attached to this process.
+    static bool debugging();
+
     // Forgets everything that was learnt from the platform before, for a program that has made
     // another one the current platform.
     static void platformChanged();
-
-private:
-    friend std::int32_t MonitorMenuBarEventHandler(zt::MenuBarEvents::Type event);
-    friend void InstallMenuBarEventMonitor();
-
-    // Class-wide state, used on the main thread alone.
-    static inline zt::MenuBarEvents::Handler menuBarEventHandler; // empty until it is installed
-    // True while the menu bar is hidden, in spite of its name.
-    static inline bool menuBarIsShown = false;
 };
 
 // The events that the menu-bar monitor wants: shown, hidden.

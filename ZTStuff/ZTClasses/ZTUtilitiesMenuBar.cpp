@@ -6,31 +6,27 @@
 #include "Platform/Platform.h"
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTUtilitiesState.h"
 
 bool ZTUtilities::fullScreenMode() {
     InstallMenuBarEventMonitor();
-    return menuBarIsShown;
-}
-
-void ZTUtilities::platformChanged() {
-    menuBarEventHandler = nullptr;
-    menuBarIsShown = false;
+    return ZTUtilitiesState::shared().menuBarIsShown;
 }
 
 void InstallMenuBarEventMonitor() {
-    if (ZTUtilities::menuBarEventHandler)
+    zt::MenuBarEvents::Handler &installed = ZTUtilitiesState::shared().menuBarEventHandler;
+    if (installed)
         return;
     // Stays set whatever comes of it, so that it is tried only once.
-    ZTUtilities::menuBarEventHandler = MonitorMenuBarEventHandler;
-    zt::MenuBarEvents &events = zt::currentPlatform().menuBarEvents;
-    if (!events.installHandler(menuBarEventsWanted, ZTUtilities::menuBarEventHandler))
+    installed = MonitorMenuBarEventHandler;
+    if (!zt::currentPlatform().menuBarEvents.installHandler(menuBarEventsWanted, installed))
         ZTLog("could not install menu bar visibility event handl)");
 }
 
 std::int32_t MonitorMenuBarEventHandler(zt::MenuBarEvents::Type event) {
     if (event == zt::MenuBarEvents::hidden)
-        ZTUtilities::menuBarIsShown = true;
+        ZTUtilitiesState::shared().menuBarIsShown = true;
     else if (event == zt::MenuBarEvents::shown)
-        ZTUtilities::menuBarIsShown = false;
+        ZTUtilitiesState::shared().menuBarIsShown = false;
     return zt::MenuBarEvents::notHandled;
 }

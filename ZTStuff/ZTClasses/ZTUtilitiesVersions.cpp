@@ -8,6 +8,7 @@
 #include "Platform/SystemVersion.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumericComparison.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
+#include "ZTStuff/ZTClasses/ZTUtilitiesState.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -109,13 +110,12 @@ ZTUtilities::ThreePartVersion ZTUtilities::threePartVersion() {
 }
 
 std::int32_t ZTUtilities::decimalSystemVersion() {
-    // 0: not computed yet, or unknown, in which case the next call asks again.
-    static std::atomic<std::int32_t> decimalSystemVersion = 0;
-    if (decimalSystemVersion == 0) {
+    std::atomic<std::int32_t> &known = ZTUtilitiesState::shared().decimalSystemVersion;
+    if (known == 0) {
         const ThreePartVersion version = threePartVersion();
-        decimalSystemVersion = (version.major * 100 + version.minor) * 100 + version.bugFix;
+        known = (version.major * 100 + version.minor) * 100 + version.bugFix;
     }
-    return decimalSystemVersion;
+    return known;
 }
 
 QString ZTUtilities::systemVersionString() {

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -24,29 +25,30 @@ protected:
         portal.waitForFinished();
     }
 
+    QTemporaryDir configuration;
     QProcess portal;
 };
 
 TEST_F(PortalAppearanceTest, theSchemeIsKnownAtOnce) {
     startPortal({u"1"_s});
-    const zt::PortalAppearance appearance;
+    const zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Dark);
 }
 
 TEST_F(PortalAppearanceTest, lightAndNoPreferenceAreToldApart) {
     startPortal({u"2"_s});
-    const zt::PortalAppearance appearance;
+    const zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Light);
     portal.closeWriteChannel();
     portal.waitForFinished();
     startPortal({u"0"_s});
-    const zt::PortalAppearance undecided;
+    const zt::PortalAppearance undecided(configuration.path());
     EXPECT_EQ(undecided.preferredScheme(), std::nullopt);
 }
 
 TEST_F(PortalAppearanceTest, aChangeIsTold) {
     startPortal({u"2"_s});
-    zt::PortalAppearance appearance;
+    zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Light);
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
@@ -58,7 +60,7 @@ TEST_F(PortalAppearanceTest, aChangeIsTold) {
 
 TEST_F(PortalAppearanceTest, aPortalThatAnswersLateIsHeardLate) {
     startPortal({u"1"_s, u"slow"_s});
-    zt::PortalAppearance appearance;
+    zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
@@ -68,7 +70,7 @@ TEST_F(PortalAppearanceTest, aPortalThatAnswersLateIsHeardLate) {
 }
 
 TEST_F(PortalAppearanceTest, withoutAPortalNothingIsKnown) {
-    const zt::PortalAppearance appearance;
+    const zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
 }
 

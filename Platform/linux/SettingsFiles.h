@@ -1,0 +1,30 @@
+#pragma once
+
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What the settings files of desktops and toolkits say about the appearance of the interface.
+
+#include "Platform/Appearance.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace zt {
+
+// Each from 0 to 1.
+struct AccentColor {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+};
+
+// From the files of KDE and of GTK below the folder, the first of them that says something. No
+// value when none does. Thread: any, as for the next.
+std::optional<Appearance::Scheme> schemeInSettingsFiles(const QString &configurationFolder);
+
+// From KDE's file; the others know of none.
+std::optional<AccentColor> accentColorInSettingsFiles(const QString &configurationFolder);
+
+} // namespace zt
