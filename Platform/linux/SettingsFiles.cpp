@@ -13,7 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The value, which may be a list. Invalid when there is none, or no such file.
+// The value, which may be a list. Invalid when there is none, or no such file. Keys of the group
+// "General" are named without it.
 QVariant settingIn(const QString &file, const QString &key) {
     return QFileInfo::exists(file) ? QSettings(file, QSettings::IniFormat).value(key) : QVariant();
 }
@@ -45,7 +46,7 @@ std::optional<Appearance::Scheme> schemeOfKde(const QString &file) {
         return brightness(*text) > brightness(*background) ? Appearance::Scheme::Dark
                                                            : Appearance::Scheme::Light;
     }
-    const QString name = settingIn(file, u"General/ColorScheme"_s).toString();
+    const QString name = settingIn(file, u"ColorScheme"_s).toString();
     if (name.isEmpty())
         return std::nullopt;
     return name.contains(u"dark"_s, Qt::CaseInsensitive) ? Appearance::Scheme::Dark
@@ -77,7 +78,7 @@ std::optional<Appearance::Scheme> schemeInSettingsFiles(const QString &configura
 }
 
 std::optional<AccentColor> accentColorInSettingsFiles(const QString &configurationFolder) {
-    return colorOf(settingIn(configurationFolder + u"/kdeglobals"_s, u"General/AccentColor"_s));
+    return colorOf(settingIn(configurationFolder + u"/kdeglobals"_s, u"AccentColor"_s));
 }
 
 } // namespace zt

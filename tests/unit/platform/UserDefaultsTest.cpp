@@ -37,6 +37,23 @@ TEST(UserDefaultsTest, theCommandLineComesBeforeTheSettingsFile) {
     EXPECT_EQ(given.objectForKey(u"nosound"_s), QVariant(u"YES"_s));
 }
 
+TEST(UserDefaultsTest, theSystemsSettingsComeLast) {
+    const QTemporaryDir folder;
+    const auto system = [](const QString &key) {
+        return key == u"style" ? std::optional<QVariant>(u"Dark"_s) : std::nullopt;
+    };
+    const zt::LinuxUserDefaults defaults({u"x"_s}, folder.path(), u"com.demo"_s, system);
+    EXPECT_EQ(defaults.objectForKey(u"style"_s), QVariant(u"Dark"_s));
+    EXPECT_EQ(defaults.objectForKey(u"other"_s), std::nullopt);
+    EXPECT_EQ(defaults.objectForKey(u"style"_s, u"com.demo"_s), std::nullopt) << "a suite's own";
+    QSettings(folder.filePath(u"com.demo.conf"_s), QSettings::IniFormat)
+        .setValue(u"style"_s, u"Light"_s);
+    EXPECT_EQ(defaults.objectForKey(u"style"_s), QVariant(u"Light"_s));
+    const zt::LinuxUserDefaults given({u"x"_s, u"-style"_s, u"Plain"_s}, folder.path(),
+                                      u"com.demo"_s, system);
+    EXPECT_EQ(given.objectForKey(u"style"_s), QVariant(u"Plain"_s));
+}
+
 TEST(UserDefaultsTest, aSuiteCannotLeadOutOfTheConfigurationFolder) {
     const QTemporaryDir folder;
     QSettings(folder.filePath(u"secret.conf"_s), QSettings::IniFormat).setValue(u"k"_s, 1);

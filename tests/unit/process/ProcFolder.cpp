@@ -30,17 +30,18 @@ ProcFolder::ProcFolder() {
 }
 
 std::string ProcFolder::statOf(const Process &process) {
-    // Fields 4 to 13, 15 to 19, 21, 23 to 25, 27 and 29 to 44 say nothing that is used.
+    // Fields 5 to 13, 15 to 19, 21, 23 to 25, 27 and 29 to 44 say nothing that is used.
     const auto zeros = [](int count) {
         std::string text;
         for (; count > 0; --count)
             text += " 0";
         return text;
     };
-    return std::to_string(process.pid) + " (" + process.name + ") " + process.state + " 1 -1" +
-           zeros(8) + ' ' + std::to_string(process.userTicks) + zeros(5) + ' ' +
-           std::to_string(process.threads) + " 0 " + std::to_string(process.startTicks) + zeros(3) +
-           " 4096 8192 " + std::to_string(process.stackStart) + zeros(24) + '\n';
+    return std::to_string(process.pid) + " (" + process.name + ") " + process.state + ' ' +
+           std::to_string(process.parent) + " -1" + zeros(8) + ' ' +
+           std::to_string(process.userTicks) + zeros(5) + ' ' + std::to_string(process.threads) +
+           " 0 " + std::to_string(process.startTicks) + zeros(3) + " 4096 8192 " +
+           std::to_string(process.stackStart) + zeros(24) + '\n';
 }
 
 void ProcFolder::add(const Process &process) const {
@@ -48,9 +49,11 @@ void ProcFolder::add(const Process &process) const {
     const fs::path folder = fs::path(root()) / "new";
     fs::create_directory(folder);
     writeFile(folder / "stat", statOf(process));
-    writeFile(folder / "status", "Name:\t" + process.name + "\nUmask:\t0022\nUid:\t" +
+    writeFile(folder / "status", "Name:\t" + process.name + "\nTracerPid:\t" +
+                                     std::to_string(process.tracer) + "\nUid:\t" +
                                      std::to_string(process.user) + "\t" +
                                      std::to_string(process.user) + "\t0\t0\nGid:\t0\t0\t0\t0\n");
+    writeFile(folder / "cgroup", process.controlGroups);
     std::string commandLine;
     for (const std::string &argument : process.arguments)
         commandLine += argument + '\0';

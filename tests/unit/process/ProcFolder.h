@@ -26,6 +26,9 @@ public:
         std::string programLink = {}; // no link when empty
         std::vector<std::string> arguments = {};
         std::string workingFolder = {}; // no link when empty
+        std::int32_t parent = 1;
+        std::int32_t tracer = 0;
+        std::string controlGroups = "0::/\n";
         uid_t user = 0;
     };
 

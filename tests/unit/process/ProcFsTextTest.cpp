@@ -36,6 +36,7 @@ TEST(ProcStatTest, aCapturedLineIsRead) {
     EXPECT_EQ(stat->pid, 2714);
     EXPECT_EQ(stat->name, "bash");
     EXPECT_EQ(stat->state, 'S');
+    EXPECT_EQ(stat->parent, 2713);
     EXPECT_EQ(stat->userTicks, 37U);
     EXPECT_EQ(stat->threads, 1);
     EXPECT_EQ(stat->startTicks, 1260533U);
@@ -120,6 +121,13 @@ TEST(ProcFsTextTest, aStatusWithoutUsersGivesNone) {
     EXPECT_FALSE(zt::parseEffectiveUser("Name:\tUid:\t1\t2\n"));
     EXPECT_FALSE(zt::parseEffectiveUser("Uid:\t1000"));
     EXPECT_FALSE(zt::parseEffectiveUser(""));
+}
+
+TEST(ProcFsTextTest, theTracerIsAProcessOrNone) {
+    EXPECT_EQ(zt::parseTracer("Name:\tsu\nPPid:\t1\nTracerPid:\t4711\nUid:\t0\n"), 4711);
+    EXPECT_EQ(zt::parseTracer("TracerPid:\t0\n"), 0);
+    for (const std::string_view status : {""sv, "Name:\tTracerPid:\t1\n"sv, "TracerPid:\tx\n"sv})
+        EXPECT_FALSE(zt::parseTracer(status)) << status;
 }
 
 TEST(ProcFsTextTest, theLastProcessIdEndsTheLoadAverages) {

@@ -325,3 +325,49 @@ TEST_F(ProcProcessManagerTest, noProcessHasAnIdBelowOne) {
 }
 
 } // namespace
+
+TEST_F(ProcProcessManagerTest, theParentIsTheLauncher) {
+    ProcFolder::Process child = process(pid, "/usr/bin/child");
+    child.parent = pid + 1;
+    m_folder.add(child);
+    const auto serial = m_manager.processWithPid(pid);
+    ASSERT_TRUE(serial);
+    EXPECT_TRUE(m_manager.launcherInformation(*serial).isEmpty()) << "a parent that has ended";
+    run(pid + 1, "/usr/bin/parent");
+    const QVariantMap launcher = m_manager.launcherInformation(*serial);
+    EXPECT_EQ(launcher.value(u"pid"_s), pid + 1);
+    EXPECT_EQ(launcher.value(u"CFBundleName"_s), u"parent"_s);
+    EXPECT_EQ(launcher.value(u"FileCreator"_s), u"????"_s);
+    ProcessSerialNumber other = *serial;
+    other.low += 1;
+    EXPECT_TRUE(m_manager.launcherInformation(other).isEmpty()) << "another process";
+}
+
+TEST_F(ProcProcessManagerTest, theSessionLaunchesLoginItems) {
+    ProcFolder::Process child = process(pid, "/usr/bin/child");
+    child.parent = pid + 1;
+    m_folder.add(child);
+    run(pid + 1, "/usr/bin/mate-session");
+    const auto serial = m_manager.processWithPid(pid);
+    EXPECT_EQ(m_manager.launcherInformation(*serial).value(u"FileCreator"_s), u"lgnw"_s);
+    run(pid + 1, "/usr/lib/systemd/systemd");
+    EXPECT_EQ(m_manager.launcherInformation(*serial).value(u"FileCreator"_s), u"????"_s);
+    child.controlGroups = "0::/app.slice/app-child@autostart.service\n";
+    m_folder.add(child);
+    EXPECT_EQ(m_manager.launcherInformation(*serial).value(u"FileCreator"_s), u"lgnw"_s);
+}
+
+TEST_F(ProcProcessManagerTest, aTracerIsADebugger) {
+    ProcFolder::Process traced = process(pid, "/usr/bin/child");
+    m_folder.add(traced);
+    const auto serial = m_manager.processWithPid(pid);
+    EXPECT_FALSE(m_manager.isBeingDebugged(*serial));
+    traced.tracer = 77;
+    m_folder.add(traced);
+    EXPECT_TRUE(m_manager.isBeingDebugged(*serial));
+    ProcessSerialNumber other = *serial;
+    other.low += 1;
+    EXPECT_FALSE(m_manager.isBeingDebugged(other)) << "another process";
+    m_folder.remove(pid);
+    EXPECT_FALSE(m_manager.isBeingDebugged(*serial)) << "it has ended";
+}

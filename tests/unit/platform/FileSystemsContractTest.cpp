@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// What every implementation of the file systems does, shown by the Linux one and by the fake.
+
+#include "Platform/linux/MountedFileSystems.h"
+
+#include "tests/fakes/FakeFileSystems.h"
+
+#include <QFile>
+#include <QStorageInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// An implementation, and an item whose file system is known to be of the type.
+struct LinuxCase {
+    zt::MountedFileSystems fileSystems;
+    QString path = u"/proc/self/status"_s;
+    QString typeName = u"proc"_s;
+};
+
+struct FakeCase {
+    FakeCase() { fileSystems.typeNames.insert(path, typeName); }
+
+    QString path = u"/a/file"_s;
+    QString typeName = u"apfs"_s;
+    FakeFileSystems fileSystems;
+};
+
+} // namespace
+
+template <typename Case>
+class FileSystemsContractTest : public testing::Test {
+protected:
+    Case implementation;
+};
+
+using Implementations = testing::Types<LinuxCase, FakeCase>;
+TYPED_TEST_SUITE(FileSystemsContractTest, Implementations);
+
+TYPED_TEST(FileSystemsContractTest, theTypeHasTheSystemsName) {
+    const auto type = this->implementation.fileSystems.typeNameFor(this->implementation.path);
+    ASSERT_TRUE(type);
+    EXPECT_EQ(*type, this->implementation.typeName);
+}
+
+TYPED_TEST(FileSystemsContractTest, aMissingItemIsAFailure) {
+    for (const QString &path : {u"/there/is/no/such/item"_s, u""_s}) {
+        const auto type = this->implementation.fileSystems.typeNameFor(path);
+        ASSERT_FALSE(type) << path.toStdString();
+        EXPECT_EQ(type.error().code, ENOENT);
+    }
+}
+
+TEST(MountedFileSystemsTest, anAliasCountsAsWhatItLeadsTo) {
+    const QTemporaryDir folder;
+    const QString alias = folder.filePath(u"alias"_s);
+    ASSERT_TRUE(QFile::link(u"/proc/self"_s, alias));
+    const zt::MountedFileSystems fileSystems;
+    EXPECT_EQ(*fileSystems.typeNameFor(alias), u"proc"_s);
+}
+
+TEST(MountedFileSystemsTest, theFolderOfAVolumeIsOnIt) {
+    const zt::MountedFileSystems fileSystems;
+    for (const QString &path : {QDir::tempPath(), u"/"_s, u"/dev"_s, QDir::homePath()}) {
+        const auto type = fileSystems.typeNameFor(path);
+        ASSERT_TRUE(type) << path.toStdString();
+        EXPECT_EQ(*type, QString::fromUtf8(QStorageInfo(path).fileSystemType()))
+            << path.toStdString();
+    }
+}
+
+TEST(MountedFileSystemsTest, anUnreadableListIsAFailure) {
+    const QTemporaryDir empty;
+    const zt::MountedFileSystems fileSystems(empty.path().toStdString());
+    const auto type = fileSystems.typeNameFor(u"/"_s);
+    ASSERT_FALSE(type);
+    EXPECT_EQ(type.error().code, ENOENT);
+}
