@@ -86,9 +86,10 @@ bool X11FullScreenWatch::haveEventsOfInterest() {
         if ((event->response_type & 0x7F) != XCB_PROPERTY_NOTIFY)
             continue;
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event.get());
-        found |= change->atom == hints->_NET_ACTIVE_WINDOW ||
-                 change->atom == hints->_NET_SUPPORTING_WM_CHECK ||
-                 change->atom == hints->_NET_WM_STATE;
+        // A window manager may go on calling a window active that has gone, but its list is right.
+        found |=
+            change->atom == hints->_NET_ACTIVE_WINDOW || change->atom == hints->_NET_CLIENT_LIST ||
+            change->atom == hints->_NET_SUPPORTING_WM_CHECK || change->atom == hints->_NET_WM_STATE;
     }
     return found;
 }

@@ -9,12 +9,15 @@
 //   windowed_program refuses         keeps its window open, but ends at the termination signal
 //   windowed_program refuses-all     keeps its window open and ignores the termination signal
 //
+// The key F11 lets a window fill the screen, or be as it was.
+//
 // It prints a line "ready" once its windows are shown, and "asked" for each time that it is asked
 // to close one. Without arguments the behaviour is that of the environment's
 // VELMORA_TEST_BEHAVIOUR.
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QStringList>
@@ -60,6 +63,13 @@ private:
         event->setAccepted(m_answer == Answer::Close || m_agreed);
         if (m_answer == Answer::AskUser && !m_agreed)
             askUser();
+    }
+
+    void keyPressEvent(QKeyEvent *event) override {
+        if (event->key() == Qt::Key_F11)
+            setWindowState(windowState() ^ Qt::WindowFullScreen);
+        else
+            QWidget::keyPressEvent(event);
     }
 
     void askUser() {

@@ -17,6 +17,9 @@
 #include <gtest/gtest.h>
 
 #include <signal.h> // SIGSTOP
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -137,6 +140,29 @@ TEST_F(RealProcessesTest, theStartIsToldToTheTick) {
 TEST_F(RealProcessesTest, aBusyProcessUsesProcessorTime) {
     const ChildProcess child({"/bin/sh", "-c", "while :; do :; done"});
     EXPECT_TRUE(waitUntil([&] { return m_manager.userProcessorTime(child.pid()) > 0.0; }));
+}
+
+TEST_F(RealProcessesTest, thisProcessIsTheLauncherOfItsChild) {
+    const ChildProcess child = run(m_bundles.add(u"X"_s));
+    const QVariantMap launcher = m_manager.launcherInformation(serialNumber(child));
+    EXPECT_EQ(launcher.value(u"pid"_s), ::getpid());
+    EXPECT_EQ(launcher.value(u"FileCreator"_s), u"????"_s);
+    const auto self = m_manager.currentProcess();
+    ASSERT_TRUE(self);
+    EXPECT_EQ(m_manager.launcherInformation(*self).value(u"pid"_s), ::getppid());
+}
+
+TEST_F(RealProcessesTest, aProcessThatIsTracedHasADebugger) {
+    const ChildProcess child = run(m_bundles.add(u"X"_s));
+    const ProcessSerialNumber process = serialNumber(child);
+    EXPECT_FALSE(m_manager.isBeingDebugged(process));
+    if (::ptrace(PTRACE_SEIZE, child.pid(), nullptr, nullptr) != 0)
+        GTEST_SKIP() << "tracing is not allowed here";
+    EXPECT_TRUE(m_manager.isBeingDebugged(process));
+    child.sendSignal(SIGSTOP); // only a process that has stopped can be let go
+    ASSERT_EQ(::waitpid(child.pid(), nullptr, 0), child.pid());
+    ASSERT_EQ(::ptrace(PTRACE_DETACH, child.pid(), nullptr, nullptr), 0);
+    EXPECT_FALSE(m_manager.isBeingDebugged(process));
 }
 
 TEST_F(RealProcessesTest, aStoppedProcessIsWokenUp) {

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: 2026 The Velmora Installer authors
+// SPDX-License-Identifier: Apache-2.0
+
+// Windows that fill the screen, under a real window manager and with the fake.
+
+#include "Platform/linux/X11MenuBarEvents.h"
+
+#include "tests/desktop/environment/XServer.h"
+#include "tests/desktop/process/DesktopWait.h"
+#include "tests/desktop/process/WindowStack.h"
+#include "tests/fakes/FakeMenuBarEvents.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <vector>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using zt::MenuBarEvents;
+
+namespace {
+
+using Types = std::vector<MenuBarEvents::Type>;
+
+constexpr std::array both = {MenuBarEvents::shown, MenuBarEvents::hidden};
+
+bool isInFront(const std::string &title) {
+    RunningProgram program({"xdotool", "getactivewindow", "getwindowname"});
+    return program.waitForLine(title);
+}
+
+// To the window in front.
+void pressF11() {
+    RunningProgram program({"xdotool", "key", "F11"});
+    ASSERT_EQ(program.waitForEnd(), 0);
+}
+
+// An implementation, and a program that hides the menu bar and shows it again.
+struct X11Case {
+    X11Case() {
+        EXPECT_TRUE(program.waitForLine("ready"));
+        EXPECT_TRUE(comesToHold([] { return isInFront("first"); }));
+    }
+    static void hide() { pressF11(); }
+    static void show() { pressF11(); }
+
+    RunningProgram program{{WINDOWED_PROGRAM, "closes"}};
+    zt::X11MenuBarEvents events;
+};
+
+struct FakeCase {
+    void hide() { events.send(MenuBarEvents::hidden); }
+    void show() { events.send(MenuBarEvents::shown); }
+
+    FakeMenuBarEvents events;
+};
+
+// A handler that keeps what it hears.
+MenuBarEvents::Handler keepIn(Types &heard, std::int32_t answer = MenuBarEvents::notHandled) {
+    return [&heard, answer](MenuBarEvents::Type event) {
+        heard.push_back(event);
+        return answer;
+    };
+}
+
+} // namespace
+
+template <typename Case>
+class MenuBarEventsContractTest : public testing::Test {
+protected:
+    Case implementation;
+    MenuBarEvents &events = implementation.events;
+};
+
+using Implementations = testing::Types<X11Case, FakeCase>;
+TYPED_TEST_SUITE(MenuBarEventsContractTest, Implementations);
+
+TYPED_TEST(MenuBarEventsContractTest, hidingAndShowingAreTold) {
+    Types heard;
+    ASSERT_TRUE(this->events.installHandler(both, keepIn(heard)));
+    EXPECT_THAT(heard, IsEmpty());
+    this->implementation.hide();
+    EXPECT_TRUE(comesToHold([&] { return heard == Types{MenuBarEvents::hidden}; }));
+    this->implementation.show();
+    EXPECT_TRUE(comesToHold([&] {
+        return heard == Types{MenuBarEvents::hidden, MenuBarEvents::shown};
+    }));
+}
+
+TYPED_TEST(MenuBarEventsContractTest, onlyWhatIsWantedIsTold) {
+    Types heard;
+    Types all;
+    ASSERT_TRUE(this->events.installHandler(both, keepIn(all)));
+    ASSERT_TRUE(this->events.installHandler(std::array{MenuBarEvents::shown}, keepIn(heard)));
+    this->implementation.hide();
+    EXPECT_TRUE(comesToHold([&] { return all.size() == 1; }));
+    this->implementation.show();
+    EXPECT_TRUE(comesToHold([&] { return all.size() == 2; }));
+    EXPECT_THAT(heard, ElementsAre(MenuBarEvents::shown));
+}
+
+TYPED_TEST(MenuBarEventsContractTest, anEventThatIsHandledGoesNoFurther) {
+    Types first;
+    Types second;
+    Types third;
+    ASSERT_TRUE(this->events.installHandler(both, keepIn(first)));
+    ASSERT_TRUE(this->events.installHandler(both, keepIn(second, MenuBarEvents::handled)));
+    ASSERT_TRUE(this->events.installHandler(both, keepIn(third)));
+    this->implementation.hide();
+    EXPECT_TRUE(comesToHold([&] { return second.size() == 1; }));
+    EXPECT_EQ(third.size(), 1U);
+    EXPECT_THAT(first, IsEmpty());
+}
+
+namespace {
+
+class X11MenuBarEventsTest : public testing::Test {
+protected:
+    void listen() { ASSERT_TRUE(events.installHandler(both, keepIn(heard))); }
+    bool comesToBeHeard(const Types &types) {
+        return comesToHold([&] { return heard == types; });
+    }
+
+    zt::X11MenuBarEvents events;
+    Types heard;
+};
+
+} // namespace
+
+TEST_F(X11MenuBarEventsTest, anotherProgramInFrontShowsTheMenuBar) {
+    RunningProgram program({WINDOWED_PROGRAM, "closes"});
+    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    listen();
+    pressF11();
+    ASSERT_TRUE(comesToBeHeard({MenuBarEvents::hidden}));
+    RunningProgram other({"xmessage", "-title", "message", "Hello"});
+    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    activateWindow("message");
+    EXPECT_TRUE(comesToBeHeard({MenuBarEvents::hidden, MenuBarEvents::shown}));
+    activateWindow("first");
+    EXPECT_TRUE(
+        comesToBeHeard({MenuBarEvents::hidden, MenuBarEvents::shown, MenuBarEvents::hidden}));
+}
+
+TEST_F(X11MenuBarEventsTest, theEndOfTheProgramShowsTheMenuBar) {
+    auto program =
+        std::make_unique<RunningProgram>(std::vector<std::string>{WINDOWED_PROGRAM, "closes"});
+    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    listen();
+    pressF11();
+    ASSERT_TRUE(comesToBeHeard({MenuBarEvents::hidden}));
+    program.reset();
+    EXPECT_TRUE(comesToBeHeard({MenuBarEvents::hidden, MenuBarEvents::shown}));
+}
+
+TEST_F(X11MenuBarEventsTest, whatIsHiddenAlreadyIsNoEvent) {
+    RunningProgram program({WINDOWED_PROGRAM, "closes"});
+    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    zt::X11MenuBarEvents earlier;
+    Types heardEarlier;
+    ASSERT_TRUE(earlier.installHandler(both, keepIn(heardEarlier)));
+    pressF11();
+    ASSERT_TRUE(comesToHold([&] { return heardEarlier.size() == 1; }));
+    listen();
+    pressF11();
+    EXPECT_TRUE(comesToBeHeard({MenuBarEvents::shown}));
+}
+
+TEST_F(X11MenuBarEventsTest, aHandlerMayInstallAnother) {
+    RunningProgram program({WINDOWED_PROGRAM, "closes"});
+    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    int calls = 0;
+    ASSERT_TRUE(events.installHandler(both, [&](MenuBarEvents::Type) {
+        if (++calls == 1)
+            events.installHandler(both, keepIn(heard));
+        return MenuBarEvents::notHandled;
+    }));
+    pressF11();
+    ASSERT_TRUE(comesToHold([&] { return calls == 1; }));
+    EXPECT_THAT(heard, IsEmpty());
+    pressF11();
+    EXPECT_TRUE(comesToHold([&] { return calls == 2; }));
+    EXPECT_THAT(heard, ElementsAre(MenuBarEvents::shown));
+}
+
+TEST_F(X11MenuBarEventsTest, withoutAServerThereAreNoEvents) {
+    const zt::testing::ScopedEnvironment display("DISPLAY", std::nullopt);
+    EXPECT_FALSE(events.installHandler(both, keepIn(heard)));
+}
+
+TEST_F(X11MenuBarEventsTest, withoutAWindowManagerThereAreNoEvents) {
+    const XServer server("MIT-SHM");
+    EXPECT_FALSE(events.installHandler(both, keepIn(heard)));
+}
+
+TEST_F(X11MenuBarEventsTest, inAWaylandSessionTheServerSeesTooLittle) {
+    const zt::testing::ScopedEnvironment compositor("WAYLAND_DISPLAY", "wayland-0");
+    EXPECT_FALSE(events.installHandler(both, keepIn(heard)));
+}
