@@ -11,6 +11,7 @@
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
+#include "tests/desktop/environment/SelectionOwner.h"
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
@@ -96,6 +97,19 @@ TEST_F(EnvironmentDesktopTest, theProgramThatCopiedIsNamedWhateverIsInFrontThen)
     activateWindow("first");
     ASSERT_TRUE(comesToFront(notes));
     EXPECT_EQ(publisherPid(), entry.pid());
+}
+
+TEST_F(EnvironmentDesktopTest, aClipboardManagerThatKeepsTheTextIsNotItsPublisher) {
+    SelectionOwner manager;
+    manager.own("CLIPBOARD_MANAGER");
+    const RunningProgram notes({WINDOWED_PROGRAM, "closes"});
+    ASSERT_TRUE(comesToFront(notes));
+    EXPECT_EQ(publisherPid(), 0) << "the watch begins";
+    typeAndCopy("from the notes");
+    const RunningProgram message({"xmessage", "-title", "message", "Hello"});
+    ASSERT_TRUE(comesToFront(message));
+    manager.own("CLIPBOARD");
+    EXPECT_EQ(publisherPid(), notes.pid());
 }
 
 TEST_F(EnvironmentDesktopTest, theWatcherSeesWhatNobodyAsksAbout) {

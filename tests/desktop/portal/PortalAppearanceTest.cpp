@@ -4,6 +4,7 @@
 #include "Platform/linux/PortalAppearance.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,6 +24,12 @@ protected:
     ~PortalAppearanceTest() override {
         portal.closeWriteChannel();
         portal.waitForFinished();
+    }
+
+    void writeSettings(const QByteArray &content) {
+        QFile file(configuration.filePath(u"kdeglobals"_s));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(content);
     }
 
     QTemporaryDir configuration;
@@ -67,6 +74,93 @@ TEST_F(PortalAppearanceTest, aPortalThatAnswersLateIsHeardLate) {
     ASSERT_TRUE(QTest::qWaitFor(
         [&appearance] { return appearance.preferredScheme() == Appearance::Scheme::Dark; }));
     EXPECT_EQ(changes, 1);
+}
+
+TEST_F(PortalAppearanceTest, theTintIsGreyWhenTheAccentColourIs) {
+    const std::pair<QStringList, Appearance::ControlTint> rows[] = {
+        {{u"0.2"_s, u"0.5"_s, u"0.9"_s}, Appearance::ControlTint::Blue},
+        {{u"0.9"_s, u"0.2"_s, u"0.3"_s}, Appearance::ControlTint::Blue},
+        {{u"0.55"_s, u"0.55"_s, u"0.55"_s}, Appearance::ControlTint::Graphite},
+        {{u"0.43"_s, u"0.51"_s, u"0.58"_s}, Appearance::ControlTint::Graphite},
+        {{u"0"_s, u"0"_s, u"0"_s}, Appearance::ControlTint::Graphite},
+        {{u"-1"_s, u"-1"_s, u"-1"_s},
+         Appearance::ControlTint::Blue}, // which says that there is none
+    };
+    for (const auto &[color, tint] : rows) {
+        startPortal(QStringList{u"2"_s, u"accent"_s} + color);
+        const zt::PortalAppearance appearance(configuration.path());
+        EXPECT_EQ(appearance.controlTint(), tint) << color.join(u' ').toStdString();
+        portal.closeWriteChannel();
+        portal.waitForFinished();
+    }
+}
+
+TEST_F(PortalAppearanceTest, anotherTintIsTold) {
+    startPortal({u"2"_s, u"accent"_s, u"0"_s, u"0"_s, u"1"_s});
+    zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Light);
+    EXPECT_EQ(appearance.controlTint(), Appearance::ControlTint::Blue);
+    int changes = 0;
+    appearance.setChangeListener(this, [&changes] { ++changes; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return changes == 1; })) << "the scheme is known now";
+    portal.write("accent 0.5 0.5 0.5\n");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [&] { return appearance.controlTint() == Appearance::ControlTint::Graphite; }));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(PortalAppearanceTest, everyListenerIsToldAsLongAsItListens) {
+    startPortal({u"2"_s});
+    zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Light);
+    int first = 0;
+    int second = 0;
+    appearance.setChangeListener(&first, [&] { ++first; });
+    appearance.setChangeListener(&second, [&] { ++second; });
+    portal.write("scheme 1\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first > 0 && second > 0; }));
+    appearance.setChangeListener(&first, {});
+    const int before = first;
+    const int secondBefore = second;
+    portal.write("scheme 2\n");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return second > secondBefore; }));
+    EXPECT_EQ(first, before);
+}
+
+TEST_F(PortalAppearanceTest, settingsFilesCountWhereThePortalHasNoSuchSetting) {
+    writeSettings("[Colors:Window]\nBackgroundNormal=0,0,0\nForegroundNormal=255,255,255\n"
+                  "[General]\nAccentColor=99,99,99\n");
+    startPortal({u"none"_s});
+    zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Dark);
+    EXPECT_EQ(appearance.controlTint(), Appearance::ControlTint::Graphite);
+    portal.write("scheme 2\n");
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return appearance.preferredScheme() == Appearance::Scheme::Light;
+    })) << "but what the portal says counts from then on";
+}
+
+TEST_F(PortalAppearanceTest, aPortalWithoutAPreferenceIsAnAnswerToo) {
+    writeSettings("[General]\nColorScheme=BreezeDark\n");
+    startPortal({u"0"_s});
+    const zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
+}
+
+TEST_F(PortalAppearanceTest, settingsFilesCountWithoutAPortal) {
+    const zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
+    writeSettings("[General]\nColorScheme=BreezeDark\n");
+    EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Dark) << "read anew";
+}
+
+TEST_F(PortalAppearanceTest, settingsFilesCountWithoutABus) {
+    // Each test is a program of its own, so nothing has connected to the real one yet.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/there/is/none");
+    writeSettings("[General]\nColorScheme=BreezeDark\n");
+    const zt::PortalAppearance appearance(configuration.path());
+    EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Dark);
+    EXPECT_EQ(appearance.controlTint(), Appearance::ControlTint::Blue);
 }
 
 TEST_F(PortalAppearanceTest, withoutAPortalNothingIsKnown) {

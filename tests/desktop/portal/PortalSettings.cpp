@@ -1,14 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A desktop portal with nothing but the setting of the colour scheme. Says "ready" once it can be
-// asked; each line "scheme N" on its input sets the value and tells everybody; the input's end ends
-// it. An argument is the value at first, and "slow" as second argument makes it answer late.
+// A desktop portal with nothing but the settings of the colour scheme and the accent colour. Says
+// "ready" once it can be asked; each line "scheme N" or "accent R G B" on its input sets the value
+// and tells everybody; the input's end ends it. The first argument is the scheme at first; the
+// others are "slow", which makes it answer late, or "accent" and three numbers: without them no
+// accent colour is known at first. "none" as scheme means that it is not known either.
 
 #include <QCoreApplication>
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusVariant>
 #include <QSocketNotifier>
 #include <QTimer>
@@ -18,26 +22,58 @@
 
 using namespace Qt::StringLiterals;
 
+// As the portal has colours.
+struct Color {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+};
+Q_DECLARE_METATYPE(Color)
+
+static QDBusArgument &operator<<(QDBusArgument &argument, const Color &color) {
+    argument.beginStructure();
+    argument << color.red << color.green << color.blue;
+    argument.endStructure();
+    return argument;
+}
+
+static const QDBusArgument &operator>>(const QDBusArgument &argument, Color &color) {
+    argument.beginStructure();
+    argument >> color.red >> color.green >> color.blue;
+    argument.endStructure();
+    return argument;
+}
+
 class PortalSettings final : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
-    PortalSettings(uint scheme, bool slow) : m_scheme(scheme), m_slow(slow) {}
+    explicit PortalSettings(bool slow) : m_slow(slow) {}
 
-    void setScheme(uint scheme) {
-        m_scheme = scheme;
-        Q_EMIT SettingChanged(u"org.freedesktop.appearance"_s, u"color-scheme"_s,
-                              QDBusVariant(scheme));
+    void set(const QString &key, const QVariant &value) {
+        m_values.insert(key, value);
+        Q_EMIT SettingChanged(u"org.freedesktop.appearance"_s, key, QDBusVariant(value));
+    }
+
+    // A line of the input.
+    void obey(const QString &line) {
+        const QStringList words = line.split(u' ');
+        if (words.size() == 2 && words[0] == u"scheme")
+            set(u"color-scheme"_s, words[1].toUInt());
+        else if (words.size() == 4 && words[0] == u"accent")
+            set(u"accent-color"_s,
+                QVariant::fromValue(
+                    Color{words[1].toDouble(), words[2].toDouble(), words[3].toDouble()}));
     }
 
     Q_SLOT QDBusVariant Read(const QString &group, const QString &key) {
-        if (group != u"org.freedesktop.appearance" || key != u"color-scheme") {
+        if (group != u"org.freedesktop.appearance" || !m_values.contains(key)) {
             sendErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, u"no such setting"_s);
             return {};
         }
         // The value is wrapped twice, as this old call of the portal has it.
-        const QDBusVariant answer(QVariant::fromValue(QDBusVariant(m_scheme)));
+        const QDBusVariant answer(QVariant::fromValue(QDBusVariant(m_values.value(key))));
         if (m_slow) {
             setDelayedReply(true);
             const QDBusMessage reply = message().createReply(QVariant::fromValue(answer));
@@ -50,7 +86,7 @@ public:
                                  const QDBusVariant &value);
 
 private:
-    uint m_scheme;
+    QVariantMap m_values;
     bool m_slow;
 };
 
@@ -58,7 +94,12 @@ int main(int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     qRegisterMetaType<QDBusVariant>();
     const QStringList arguments = QCoreApplication::arguments();
-    PortalSettings settings(arguments.value(1).toUInt(), arguments.value(2) == u"slow");
+    PortalSettings settings(arguments.contains(u"slow"_s));
+    qDBusRegisterMetaType<Color>();
+    if (arguments.value(1) != u"none")
+        settings.obey(u"scheme "_s + arguments.value(1));
+    if (const qsizetype accent = arguments.indexOf(u"accent"_s); accent > 0)
+        settings.obey(arguments.mid(accent, 4).join(u' '));
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.registerObject(u"/org/freedesktop/portal/desktop"_s, &settings,
                             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals) ||
@@ -72,9 +113,7 @@ int main(int argc, char **argv) {
             QCoreApplication::quit();
             return;
         }
-        const QString command = QString::fromLatin1(line, length).trimmed();
-        if (command.startsWith(u"scheme "))
-            settings.setScheme(command.mid(7).toUInt());
+        settings.obey(QString::fromLatin1(line, length).trimmed());
     });
     std::puts("ready");
     std::fflush(stdout);
