@@ -3,7 +3,9 @@
 
 #include "Platform/linux/MountInfoText.h"
 
+#include <algorithm>
 #include <charconv>
+#include <system_error>
 
 namespace zt {
 

@@ -129,16 +129,15 @@ std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
 }
 
 Appearance::ControlTint PortalAppearance::controlTint() const {
-    if (!m_tint) {
-        QDBusPendingReply<QDBusVariant> reply = askPortal(accentColorKey, firstAnswerTimeout);
-        reply.waitForFinished();
-        if (!reply.isError())
-            m_tint = tintOf(accentColorOf(QVariant::fromValue(reply.value())));
-        else if (!isLate(reply.error()))
-            return tintOf(accentColorInSettingsFiles(m_configurationFolder));
-        else
-            m_tint = ControlTint::Blue; // until the portal tells of a change
-    }
+    if (m_tint)
+        return *m_tint;
+    QDBusPendingReply<QDBusVariant> reply = askPortal(accentColorKey, firstAnswerTimeout);
+    reply.waitForFinished();
+    if (reply.isError() && !isLate(reply.error()))
+        return tintOf(accentColorInSettingsFiles(m_configurationFolder));
+    // One that is late is not asked again, but it tells of a change.
+    m_tint = reply.isError() ? ControlTint::Blue
+                             : tintOf(accentColorOf(QVariant::fromValue(reply.value())));
     return *m_tint;
 }
 
@@ -171,10 +170,11 @@ QDBusPendingCall PortalAppearance::askPortal(const QString &key, int timeoutMill
 
 void PortalAppearance::takeAnswer(const QDBusPendingCall &answer) {
     const QDBusPendingReply<QDBusVariant> reply = answer;
-    if (!reply.isError())
-        setScheme(schemeOf(QVariant::fromValue(reply.value())));
-    else
+    if (reply.isError()) {
         m_isWithoutPortal = !isLate(reply.error());
+        return;
+    }
+    setScheme(schemeOf(QVariant::fromValue(reply.value())));
 }
 
 void PortalAppearance::setScheme(std::optional<Scheme> scheme) {

@@ -28,16 +28,16 @@ bool X11MenuBarEvents::installHandler(std::span<const Type> wanted, Handler hand
     }
     if (!m_watch)
         return false;
-    m_handlers.push_back({{wanted.begin(), wanted.end()}, std::move(handler)});
+    m_handlers.insert(m_handlers.begin(), {{wanted.begin(), wanted.end()}, std::move(handler)});
     return true;
 }
 
 void X11MenuBarEvents::tell(Type event) const {
     // A handler may install another.
     const std::vector<Installed> handlers = m_handlers;
-    for (auto entry = handlers.rbegin(); entry != handlers.rend(); ++entry) {
-        if (std::find(entry->wanted.begin(), entry->wanted.end(), event) != entry->wanted.end() &&
-            entry->handler(event) != notHandled)
+    for (const Installed &entry : handlers) {
+        if (std::ranges::find(entry.wanted, event) != entry.wanted.end() &&
+            entry.handler(event) != notHandled)
             return;
     }
 }

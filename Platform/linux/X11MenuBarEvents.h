@@ -32,7 +32,7 @@ private:
 
     void tell(Type event) const;
 
-    std::vector<Installed> m_handlers;
+    std::vector<Installed> m_handlers; // the newest first
     std::unique_ptr<X11FullScreenWatch> m_watch;
 };
 

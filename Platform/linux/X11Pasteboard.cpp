@@ -91,10 +91,11 @@ private:
                 continue;
             const auto *change =
                 reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event.get());
-            if (change->selection == m_managers)
+            if (change->selection == m_managers) {
                 m_manager = change->owner;
-            else if (change->selection == m_clipboard && !belongsToManager(change->owner))
+            } else if (change->selection == m_clipboard && !belongsToManager(change->owner)) {
                 ++m_count;
+            }
         }
     }
 

@@ -27,9 +27,10 @@ bool ZTUtilities::darkMenuTheme() {
     }
     const std::optional<QString> style =
         platform.userDefaults.stringForKey(u"AppleInterfaceStyle"_s);
-    if (!style && !platform.appearance.preferredScheme())
+    if (!style && !platform.appearance.preferredScheme()) {
         state.noteUnknown(ZTUtilitiesState::DarkInterface,
                           "The desktop has no preference for a light or a dark interface.");
+    }
     return style == u"Dark"_s;
 }
 

@@ -17,7 +17,7 @@ public:
         ++installations;
         if (isUnavailable)
             return false;
-        m_handlers.push_back({{wanted.begin(), wanted.end()}, std::move(handler)});
+        m_handlers.insert(m_handlers.begin(), {{wanted.begin(), wanted.end()}, std::move(handler)});
         return true;
     }
 
@@ -25,10 +25,10 @@ public:
     std::int32_t send(Type event) {
         std::int32_t answer = handled;
         const std::vector<Installed> handlers = m_handlers;
-        for (auto entry = handlers.rbegin(); entry != handlers.rend(); ++entry) {
-            if (std::find(entry->wanted.begin(), entry->wanted.end(), event) == entry->wanted.end())
+        for (const Installed &entry : handlers) {
+            if (std::ranges::find(entry.wanted, event) == entry.wanted.end())
                 continue;
-            answer = entry->handler(event);
+            answer = entry.handler(event);
             if (answer != notHandled)
                 break;
         }
@@ -44,5 +44,5 @@ private:
         Handler handler;
     };
 
-    std::vector<Installed> m_handlers;
+    std::vector<Installed> m_handlers; // the newest first
 };

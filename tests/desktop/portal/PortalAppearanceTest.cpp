@@ -117,14 +117,13 @@ TEST_F(PortalAppearanceTest, everyListenerIsToldAsLongAsItListens) {
     int second = 0;
     appearance.setChangeListener(&first, [&] { ++first; });
     appearance.setChangeListener(&second, [&] { ++second; });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first == 1 && second == 1; })) << "it is known now";
     portal.write("scheme 1\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return first > 0 && second > 0; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first == 2 && second == 2; }));
     appearance.setChangeListener(&first, {});
-    const int before = first;
-    const int secondBefore = second;
     portal.write("scheme 2\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return second > secondBefore; }));
-    EXPECT_EQ(first, before);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return second == 3; }));
+    EXPECT_EQ(first, 2);
 }
 
 TEST_F(PortalAppearanceTest, settingsFilesCountWhereThePortalHasNoSuchSetting) {
