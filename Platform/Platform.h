@@ -12,6 +12,7 @@ class Appearance;
 class ApplicationEvents;
 class Authorization;
 class Bundles;
+class ChildProcesses;
 class Clock;
 class FileSystems;
 class KeyboardLayout;
@@ -33,6 +34,7 @@ class Workspace;
 struct Platform {
     Log &log;
     Clock &clock;
+    ChildProcesses &childProcesses;
     Bundles &bundles;
     UserDefaults &userDefaults;
     SystemVersion &systemVersion;

@@ -7,13 +7,14 @@
 // other programs of changes, and the standard folders.
 
 #include <QByteArray>
-#include <QIcon>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
 #include <cstdint>
 #include <optional>
+
+class QIcon; // so that this header needs QtCore alone
 
 namespace zt {
 
@@ -30,6 +31,19 @@ public:
     // Opens the document in the application that the desktop assigns to it, or starts the bundle.
     // Answers whether that was under way. Thread: any.
     virtual bool openFile(const QString &path) = 0;
+
+    // The same without an answer and without waiting for a window. Does nothing when the path is
+    // empty or nothing is there. Thread: any.
+    virtual void startOpening(const QString &path) = 0;
+
+    // What a shortcut to another item leads to in the end, through all others on the way; absolute.
+    // No value when the item is no shortcut, and when nothing is at the end. Thread: any.
+    virtual std::optional<QString> targetOfAlias(const QString &path) const = 0;
+
+    // The top folder of the volume, where it has the place and the name that the desktop gives to
+    // disks, disk images and other media; without a look at whether it is there. No value for a
+    // path that is on none. Thread: any.
+    virtual std::optional<QString> volumeOf(const QString &path) const = 0;
 
     // Makes the bundle known to the desktop: its name, its icon, the types of files and addresses
     // that it opens. What is known of a bundle with the same identifier is replaced. 0, or the

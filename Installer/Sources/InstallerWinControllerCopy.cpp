@@ -15,6 +15,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QIcon>
 
 #include <future>
 #include <memory>

@@ -71,10 +71,15 @@ void beginSession(gpointer /*data*/) {
 std::optional<std::int32_t> launchBundle(const Bundle &bundle, const QString &workingFolder) {
     if (bundle.executablePath().isEmpty())
         return std::nullopt;
+    return launchProgram({bundle.executablePath()}, workingFolder);
+}
+
+std::optional<std::int32_t> launchProgram(const QStringList &commandLine,
+                                          const QString &workingFolder) {
     QProcessEnvironment environment = environmentForOthers();
     if (const auto server = X11Connection::open())
         environment.insert(u"DESKTOP_STARTUP_ID"_s, startupId(server->serverTime()));
-    ArgumentList arguments({bundle.executablePath()});
+    ArgumentList arguments(commandLine);
     ArgumentList variables(environment.toStringList());
     GPid pid = 0;
     // Standard input comes from nowhere and all other descriptors are closed.

@@ -7,9 +7,11 @@
 #include "Platform/Clock.h"
 #include "Platform/Log.h"
 #include "Platform/WindowSystem.h"
+#include "Platform/linux/AliasTarget.h"
 #include "Platform/linux/BundleIconFile.h"
 #include "Platform/linux/BundleLaunch.h"
 #include "Platform/linux/GLibPointer.h"
+#include "Platform/linux/MediaVolume.h"
 #include "Platform/linux/registration/BundleRecord.h"
 
 #include <QApplication>
@@ -17,6 +19,7 @@
 #include <QDBusMessage>
 #include <QDir>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMimeDatabase>
 
 #include <csignal> // kill
@@ -79,6 +82,27 @@ bool DesktopWorkspace::openFile(const QString &path) {
     if (const auto bundle = m_services.bundles.bundleAtPath(path))
         return launch(*bundle);
     return QFileInfo::exists(path) && openUrl(QUrl::fromLocalFile(path));
+}
+
+// A document's handler is found by a program of its own: that may ask the bus, or a file system
+// that does not answer.
+void DesktopWorkspace::startOpening(const QString &path) {
+    if (const auto bundle = m_services.bundles.bundleAtPath(path))
+        launchBundle(*bundle, m_folders.home);
+    else if (!path.isEmpty() && QFileInfo::exists(path))
+        launchProgram({u"/usr/bin/gio"_s, u"open"_s, QFileInfo(path).absoluteFilePath()},
+                      m_folders.home);
+}
+
+std::optional<QString> DesktopWorkspace::targetOfAlias(const QString &path) const {
+    return zt::targetOfAlias(path);
+}
+
+std::optional<QString> DesktopWorkspace::volumeOf(const QString &path) const {
+    if (!path.startsWith(m_folders.root))
+        return std::nullopt;
+    const auto volume = mediaVolumeOf(path.mid(m_folders.root.size()));
+    return volume ? std::optional(m_folders.root + *volume) : std::nullopt;
 }
 
 bool DesktopWorkspace::openUrl(const QUrl &url) {

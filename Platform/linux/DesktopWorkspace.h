@@ -19,7 +19,8 @@ class WindowSystem;
 class DesktopWorkspace final : public Workspace {
 public:
     struct Folders {
-        QString root; // what stands before "/Applications"; empty on a real system
+        // What stands before "/Applications" and the folders of media; empty on a real system.
+        QString root;
         QString home;
         QString userData;       // where this user's applications are registered
         QStringList systemData; // and those of all users, the first one winning
@@ -37,6 +38,9 @@ public:
 
     QIcon iconForFile(const QString &path) override;
     bool openFile(const QString &path) override;
+    void startOpening(const QString &path) override;
+    std::optional<QString> targetOfAlias(const QString &path) const override;
+    std::optional<QString> volumeOf(const QString &path) const override;
     std::int32_t registerApplication(const QString &path) override;
     QByteArray registrationForTool(const QString &bundle, const QString &destination) override;
     bool openUrl(const QUrl &url) override;

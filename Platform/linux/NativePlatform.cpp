@@ -17,6 +17,7 @@
 #include "Platform/linux/PolkitAuthorization.h"
 #include "Platform/linux/PortalAppearance.h"
 #include "Platform/linux/ProcProcessManager.h"
+#include "Platform/linux/SpawnedChildProcesses.h"
 #include "Platform/linux/StandardErrorLog.h"
 #include "Platform/linux/SystemSettings.h"
 #include "Platform/linux/X11KeyboardLayout.h"
@@ -69,6 +70,7 @@ struct NativePlatform::Services {
 
     StandardErrorLog log;
     EventLoopClock clock;
+    SpawnedChildProcesses childProcesses;
     LinuxBundles bundles;
     LinuxUserDefaults userDefaults;
     LinuxSystemVersion systemVersion;
@@ -90,6 +92,7 @@ struct NativePlatform::Services {
     PulseSounds sounds{soundFolders()}; // goes first, with tasks that use the others
     Platform platform{.log = log,
                       .clock = clock,
+                      .childProcesses = childProcesses,
                       .bundles = bundles,
                       .userDefaults = userDefaults,
                       .systemVersion = systemVersion,

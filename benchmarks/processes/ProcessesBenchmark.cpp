@@ -67,6 +67,7 @@ public:
         : m_manager(native.bundles, native.windowSystem)
         , m_services{.log = m_log,
                      .clock = native.clock,
+                     .childProcesses = native.childProcesses,
                      .bundles = native.bundles,
                      .userDefaults = native.userDefaults,
                      .systemVersion = native.systemVersion,

@@ -30,7 +30,9 @@ std::chrono::system_clock::time_point FakeClock::now() const {
 
 std::chrono::steady_clock::time_point FakeClock::steadyNow() const {
     const std::scoped_lock lock(m_mutex);
-    return std::chrono::steady_clock::time_point(m_elapsed);
+    const std::chrono::steady_clock::time_point reading(m_elapsed);
+    m_elapsed += tick;
+    return reading;
 }
 
 void FakeClock::sleepFor(std::chrono::microseconds duration) {
@@ -142,6 +144,25 @@ void FakeAppearance::setChangeListener(const void *owner, std::function<void()> 
         m_listeners[owner] = std::move(changed);
     else
         m_listeners.erase(owner);
+}
+
+void FakeWorkspace::startOpening(const QString &path) {
+    startedOpenings << path;
+    if (whenStartedOpening)
+        whenStartedOpening();
+}
+
+std::optional<QString> FakeWorkspace::volumeOf(const QString &path) const {
+    for (const QString &volume : volumes) {
+        if (path == volume || path.startsWith(volume + u'/'))
+            return volume;
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> FakeWorkspace::targetOfAlias(const QString &path) const {
+    const auto found = aliases.constFind(path);
+    return found == aliases.cend() ? std::nullopt : std::optional(*found);
 }
 
 void FakeAppearance::setScheme(std::optional<Scheme> scheme) {

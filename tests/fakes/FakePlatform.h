@@ -20,6 +20,7 @@
 #include "tests/fakes/FakeAccessibility.h"
 #include "tests/fakes/FakeApplicationEvents.h"
 #include "tests/fakes/FakeAuthorization.h"
+#include "tests/fakes/FakeChildProcesses.h"
 #include "tests/fakes/FakeFileSystems.h"
 #include "tests/fakes/FakeKeyboardLayout.h"
 #include "tests/fakes/FakeMenuBarEvents.h"
@@ -30,6 +31,7 @@
 #include "tests/fakes/FakeUserInput.h"
 #include "tests/fakes/FakeWindowSystem.h"
 
+#include <QIcon>
 #include <QMap>
 #include <QStringList>
 
@@ -60,6 +62,7 @@ public:
     void advance(std::chrono::microseconds duration);
 
     std::vector<std::chrono::microseconds> sleeps;
+    std::chrono::microseconds tick{0}; // passes after each reading of the steady time
 
 private:
     struct DelayedCall {
@@ -68,7 +71,7 @@ private:
     };
 
     mutable std::mutex m_mutex;
-    std::chrono::microseconds m_elapsed{0};
+    mutable std::chrono::microseconds m_elapsed{0};
     std::vector<DelayedCall> m_delayedCalls;
 };
 
@@ -135,6 +138,9 @@ public:
     QString displayName(const QString &path) const override;
     void noteFileSystemChanged(const QString &path) override;
     QStringList applicationsFolders(Domain domain) const override;
+    void startOpening(const QString &path) override;
+    std::optional<QString> volumeOf(const QString &path) const override;
+    std::optional<QString> targetOfAlias(const QString &path) const override;
     void beep() override { ++beeps; }
 
     QStringList localApplications;
@@ -149,6 +155,10 @@ public:
     std::int32_t registrationStatus = 0;
     QList<QUrl> openedUrls;
     QStringList notedChanges;
+    QStringList startedOpenings;
+    std::function<void()> whenStartedOpening;
+    QStringList volumes;
+    QMap<QString, QString> aliases;
     int beeps = 0;
 
 private:
@@ -184,6 +194,7 @@ public:
 struct FakePlatform {
     FakeLog log;
     FakeClock clock;
+    FakeChildProcesses childProcesses;
     FakeBundles bundles;
     FakeUserDefaults userDefaults;
     FakeSystemVersion systemVersion;
@@ -205,6 +216,7 @@ struct FakePlatform {
     FakeFileSystems fileSystems;
     zt::Platform services{.log = log,
                           .clock = clock,
+                          .childProcesses = childProcesses,
                           .bundles = bundles,
                           .userDefaults = userDefaults,
                           .systemVersion = systemVersion,

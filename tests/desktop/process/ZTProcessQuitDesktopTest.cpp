@@ -53,6 +53,7 @@ protected:
     zt::BusApplicationEvents applicationEvents;
     zt::Platform services = {.log = fakes.log,
                              .clock = clock,
+                             .childProcesses = fakes.childProcesses,
                              .bundles = bundles,
                              .userDefaults = fakes.userDefaults,
                              .systemVersion = fakes.systemVersion,

@@ -86,6 +86,7 @@ protected:
     zt::PulseSounds sounds{{}, patient};
     const zt::Platform services = {.log = fakes.log,
                                    .clock = fakes.clock,
+                                   .childProcesses = fakes.childProcesses,
                                    .bundles = fakes.bundles,
                                    .userDefaults = fakes.userDefaults,
                                    .systemVersion = fakes.systemVersion,

@@ -100,6 +100,7 @@ protected:
     zt::ProcProcessManager m_manager{m_reader, m_fakes.windowSystem};
     zt::Platform m_services{.log = m_fakes.log,
                             .clock = m_fakes.clock,
+                            .childProcesses = m_fakes.childProcesses,
                             .bundles = m_fakes.bundles,
                             .userDefaults = m_fakes.userDefaults,
                             .systemVersion = m_fakes.systemVersion,

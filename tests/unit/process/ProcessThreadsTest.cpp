@@ -111,6 +111,7 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
     zt::ProcProcessManager manager(reader, fakes.windowSystem);
     zt::Platform services = {.log = fakes.log,
                              .clock = fakes.clock,
+                             .childProcesses = fakes.childProcesses,
                              .bundles = fakes.bundles,
                              .userDefaults = fakes.userDefaults,
                              .systemVersion = fakes.systemVersion,

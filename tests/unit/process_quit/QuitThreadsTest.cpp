@@ -92,6 +92,7 @@ protected:
     zt::PidfdRunningApplications runningApplications{clock, fakes.windowSystem};
     zt::Platform services = {.log = fakes.log,
                              .clock = clock,
+                             .childProcesses = fakes.childProcesses,
                              .bundles = reader,
                              .userDefaults = fakes.userDefaults,
                              .systemVersion = fakes.systemVersion,

@@ -73,6 +73,7 @@ protected:
     void useSoundsOn(std::unique_ptr<zt::Sounds> sounds) {
         const zt::Platform services = {.log = platform.log,
                                        .clock = platform.clock,
+                                       .childProcesses = platform.childProcesses,
                                        .bundles = platform.bundles,
                                        .userDefaults = platform.userDefaults,
                                        .systemVersion = platform.systemVersion,
