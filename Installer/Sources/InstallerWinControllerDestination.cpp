@@ -20,10 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString expandingTilde(const QString &path) {
-    return path == u'~' || path.startsWith(u"~/") ? QDir::homePath() + path.mid(1) : path;
-}
-
 QString abbreviatingWithTilde(const QString &path) {
     const QString home = QDir::homePath();
     if (path == home)

@@ -10,12 +10,14 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/Ordering.h"
 
 #include <QString>
+#include <QStringList>
 #include <QStringView>
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 class QIcon;
 class ZTProcess;
@@ -78,6 +80,34 @@ public:
     static bool sierraOrNewer();
     static bool highSierraOrNewer();
     static bool mojaveOrNewer();
+
+    // Whether this application runs from a disk that it is distributed on: a volume at whose top
+    // there is an item named ".launchlock" or "launchlock". Thread: any, as for the other two.
+    static bool runningFromDistributionDisk();
+
+    // Whether this application is to be taken as not installed yet: it runs from its distribution
+    // disk or from a folder for temporary items.
+    static bool installationMode();
+
+    // What the alias leads to in the end; the path itself when it is no alias or leads nowhere.
+    static QString resolvedAlias(const QString &path);
+
+    // Runs the executable script itself, in the user's home folder and with nothing to read, and
+    // answers what it has printed to both output streams, in the order written. After `timeout`
+    // seconds it is asked to end, with all that it has started; the answer is then what it has
+    // printed until then. No value when that is not UTF-8; the text "script NAME failed: REASON"
+    // when the script could not be run. The path may begin with "~". Thread: any, as for the other
+    // two.
+    static std::optional<QString> runShellScript(const QString &path,
+                                                 const std::optional<QStringList> &withParameters,
+                                                 double timeout);
+
+    // Has the line run by the shell, and answers what it prints to its standard output until that
+    // is closed, however long this takes. No value when that is not UTF-8.
+    static std::optional<QString> shellCommandResult(const QString &commandLine);
+
+    // Has the desktop open the document, folder or bundle, without waiting for it.
+    static void openFile(const QString &path);
 
     // The user's environment. Where the system cannot tell, the answer is the neutral one, and a
     // line in the log says so once.

@@ -3,6 +3,8 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/PathComponents.h"
 
+#include <QDir>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,4 +49,8 @@ QString pathExtension(const QString &path) {
     const QString name = lastPathComponent(path);
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot > 0 ? name.mid(dot + 1) : QString();
+}
+
+QString expandingTilde(const QString &path) {
+    return path == u'~' || path.startsWith(u"~/") ? QDir::homePath() + path.mid(1) : path;
 }

@@ -25,3 +25,6 @@ QString deletingPathExtension(const QString &path);
 // What follows the last dot of the last component: "app" of "/a/b.app". The empty text when there
 // is no dot, or when it only begins the component.
 QString pathExtension(const QString &path);
+
+// The path with "~" at its start, alone or before a slash, replaced by this user's home folder.
+QString expandingTilde(const QString &path);
