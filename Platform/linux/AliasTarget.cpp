@@ -67,10 +67,13 @@ std::optional<QString> targetOfAlias(const QString &path) {
     QString item = QDir::cleanPath(path);
     bool isAlias = QFileInfo(item).isSymLink();
     for (int link = 0; link < longestChain; ++link) {
-        item = QFileInfo(item).canonicalFilePath(); // empty for missing targets and loops of links
+        const QFileInfo end(item);
+        if (!end.exists()) // a missing target, or a loop of links
+            return std::nullopt;
+        item = end.canonicalFilePath();
         const auto target = targetOfLinkEntry(item);
         if (!target)
-            return isAlias && !item.isEmpty() ? std::optional(item) : std::nullopt;
+            return isAlias ? std::optional(item) : std::nullopt;
         item = *target;
         isAlias = true;
     }

@@ -79,3 +79,27 @@ TEST_F(DesktopWorkspaceTest, aBundleWithoutAProgramCannotBeOpened) {
     platform.bundles.add(bundle, {});
     EXPECT_FALSE(workspace.openFile(bundle));
 }
+
+TEST_F(DesktopWorkspaceTest, startingToOpenNothingDoesNothing) {
+    workspace.startOpening(QString());
+    workspace.startOpening(folder.filePath(u"missing"_s));
+    const QString bundle = folder.filePath(u"Empty.app"_s);
+    QDir().mkpath(bundle);
+    platform.bundles.add(bundle, {});
+    workspace.startOpening(bundle);
+    EXPECT_TRUE(platform.log.lines().isEmpty());
+}
+
+TEST_F(DesktopWorkspaceTest, volumesLieBelowTheRoot) {
+    const QString disk = folder.filePath(u"root/media/ann/Disk"_s);
+    EXPECT_EQ(workspace.volumeOf(disk + u"/Product.app"_s), disk);
+    EXPECT_EQ(workspace.volumeOf(u"/media/ann/Disk/Product.app"_s), std::nullopt);
+}
+
+TEST_F(DesktopWorkspaceTest, anAliasHasATarget) {
+    write(u"letter.txt"_s, "Dear");
+    QFile::link(folder.filePath(u"letter.txt"_s), folder.filePath(u"link"_s));
+    EXPECT_EQ(workspace.targetOfAlias(folder.filePath(u"link"_s)),
+              QFileInfo(folder.filePath(u"letter.txt"_s)).canonicalFilePath());
+    EXPECT_EQ(workspace.targetOfAlias(folder.filePath(u"letter.txt"_s)), std::nullopt);
+}
