@@ -1,10 +1,16 @@
 # What "cmake --install" puts in place: the installer's bundle, what the password dialog says for it,
-# the utility library with its headers, and the files through which find_package(ZTStuff) finds it.
+# the utility library with its headers and its helper, and the files through which
+# find_package(ZTStuff) finds it.
 
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY "${PROJECT_BINARY_DIR}/VelmoraInstaller.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora-installer
+    USE_SOURCE_PERMISSIONS)
+
+# The helper that a program which uses ZTUtilities::launchMicro() keeps among its resources.
+install(DIRECTORY "${PROJECT_BINARY_DIR}/Micro.app"
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff
     USE_SOURCE_PERMISSIONS)
 
 # What the password dialog says. It names the tool by its path, which is known only now; an

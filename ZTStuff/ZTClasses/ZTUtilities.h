@@ -109,6 +109,13 @@ public:
     // Has the desktop open the document, folder or bundle, without waiting for it.
     static void openFile(const QString &path);
 
+    // Opens the helper "Micro" among this application's resources, which comes to the front, and
+    // puts the application that was in front before back there: at once, or, when the helper is
+    // first left in front, once that has given way by itself or half a second later. Takes about a
+    // second at most. Does nothing while the program in front fills the screen. Part of
+    // ZTStuff::gui.
+    static void launchMicro(bool leavesItInFront);
+
     // The user's environment. Where the system cannot tell, the answer is the neutral one, and a
     // line in the log says so once.
 

@@ -15,6 +15,8 @@ public:
     void bringToFront(std::int32_t pid, Windows windows) override {
         broughtToFront << pid;
         whichWindows << windows;
+        if (whenBroughtToFront)
+            whenBroughtToFront(pid);
     }
     void setHidden(std::int32_t pid, bool hidden) override {
         (hidden ? hiddenProcesses : shownProcesses) << pid;
@@ -33,6 +35,7 @@ public:
     std::optional<std::int32_t> front;
     QList<std::int32_t> broughtToFront;
     QList<Windows> whichWindows;
+    std::function<void(std::int32_t)> whenBroughtToFront;
     QList<std::int32_t> hiddenProcesses;
     QList<std::int32_t> shownProcesses;
     QList<std::int32_t> closeRequests;
