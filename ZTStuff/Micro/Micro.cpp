@@ -79,7 +79,8 @@ xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
-// Without a frame, and in no list of windows.
+// Without a frame, but in the lists of windows: not all window managers give the keyboard to windows
+// that are in none.
 void describe(xcb_connection_t *connection, xcb_window_t window, Hints &hints) {
     xcb_ewmh_connection_t *const names = hints.get();
     std::array<char, 256> host = {};
@@ -89,9 +90,6 @@ void describe(xcb_connection_t *connection, xcb_window_t window, Hints &hints) {
             std::string_view("micro\0Micro", 12));
     setText(connection, window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, host.data());
     xcb_ewmh_set_wm_pid(names, window, static_cast<std::uint32_t>(::getpid()));
-    std::array<xcb_atom_t, 2> state = {names->_NET_WM_STATE_SKIP_TASKBAR,
-                                       names->_NET_WM_STATE_SKIP_PAGER};
-    xcb_ewmh_set_wm_state(names, window, state.size(), state.data());
     constexpr std::array<std::uint32_t, 5> noDecorations = {2, 0, 0, 0, 0};
     const xcb_atom_t decorations = atom(connection, "_MOTIF_WM_HINTS");
     constexpr std::uint8_t bitsOfNumber = 32;
