@@ -11,6 +11,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
 #include <memory>
 
 namespace zt {
@@ -23,6 +24,9 @@ public:
 
     // Whether the program runs. What it started itself does not count.
     virtual bool isRunning() = 0;
+
+    // Blocks the calling thread until the program has ended, or the time is over.
+    virtual void waitForEnd(std::chrono::microseconds atMost) = 0;
 
     // Asks the program and all that it started to end; what does not do so soon is forced to,
     // without waiting for it here. Only what has left for a process group of its own is spared.

@@ -24,6 +24,11 @@ public:
     // Blocks the calling thread. Thread: any.
     virtual void sleepFor(std::chrono::microseconds duration) = 0;
 
+    // The same by a wait of the caller's own, which gets the duration and may be over sooner, when
+    // something has happened that makes further sleep needless. Thread: any.
+    using Wait = std::function<void(std::chrono::microseconds)>;
+    virtual void sleepFor(std::chrono::microseconds duration, const Wait &wait) = 0;
+
     // Runs `action` on the main thread after `delay`, unless the application has ended by then.
     // Thread: main.
     virtual void callAfter(std::chrono::milliseconds delay, std::function<void()> action) = 0;

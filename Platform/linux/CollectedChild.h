@@ -25,6 +25,7 @@ public:
     ~CollectedChild() override;
 
     bool isRunning() override;
+    void waitForEnd(std::chrono::microseconds atMost) override { m_child.waitForEnd(atMost); }
     void terminate() override;
     Result<QByteArray> output() override;
 

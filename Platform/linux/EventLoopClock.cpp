@@ -22,6 +22,10 @@ void EventLoopClock::sleepFor(std::chrono::microseconds duration) {
     std::this_thread::sleep_for(duration);
 }
 
+void EventLoopClock::sleepFor(std::chrono::microseconds duration, const Wait &wait) {
+    wait(duration);
+}
+
 void EventLoopClock::callAfter(std::chrono::milliseconds delay, std::function<void()> action) {
     Q_ASSERT(QThread::currentThread() == m_mainThread.thread());
     QTimer::singleShot(delay, Qt::PreciseTimer, &m_mainThread, std::move(action));

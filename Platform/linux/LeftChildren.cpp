@@ -12,9 +12,6 @@
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <system_error>
-extern "C" { // which the header of older C libraries forgets to say
-#include <sys/pidfd.h>
-}
 
 namespace zt {
 
@@ -62,8 +59,7 @@ LeftChildren::~LeftChildren() {
 }
 
 void LeftChildren::take(OwnedChild child, Fate fate) {
-    Child left{.process = std::move(child), .end = {}, .deadline = {}};
-    left.end.reset(::pidfd_open(left.process.pid(), 0)); // closed on exec without being asked
+    Child left{.process = std::move(child), .deadline = {}};
     if (fate == Fate::MustEnd)
         left.deadline = std::chrono::steady_clock::now() + m_patience;
     const std::scoped_lock lock(m_mutex);
@@ -120,17 +116,18 @@ void LeftChildren::forgetEnded(std::vector<Child> &children) {
                   [](Child &child) { return !child.deadline && child.process.hasEnded(); });
 }
 
-void LeftChildren::waitForNews(const std::vector<Child> &children) const {
+void LeftChildren::waitForNews(std::vector<Child> &children) const {
     std::vector<pollfd> descriptors = {{.fd = m_wake.get(), .events = POLLIN, .revents = 0}};
     std::optional<Time> next;
     const Time now = std::chrono::steady_clock::now();
-    for (const Child &child : children) {
-        if (!child.deadline && child.end)
-            descriptors.push_back({.fd = child.end.get(), .events = POLLIN, .revents = 0});
-        if (child.deadline || !child.end) {
-            const Time due = child.deadline.value_or(now + lookInterval);
-            next = std::min(next.value_or(due), due);
+    for (Child &child : children) {
+        const int end = child.deadline ? -1 : child.process.end();
+        if (end >= 0) {
+            descriptors.push_back({.fd = end, .events = POLLIN, .revents = 0});
+            continue;
         }
+        const Time due = child.deadline.value_or(now + lookInterval);
+        next = std::min(next.value_or(due), due);
     }
     const auto span = next ? std::max(*next - now, Time::duration::zero()) : Time::duration::zero();
     const auto seconds = std::chrono::floor<std::chrono::seconds>(span);

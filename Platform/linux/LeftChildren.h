@@ -36,14 +36,13 @@ private:
 
     struct Child {
         OwnedChild process;
-        UniqueFd end;                 // readable once it has ended; may be missing
         std::optional<Time> deadline; // when its group is ended
     };
 
     void start();
     void run();
     static void forgetEnded(std::vector<Child> &children);
-    void waitForNews(const std::vector<Child> &children) const;
+    void waitForNews(std::vector<Child> &children) const;
 
     const std::chrono::milliseconds m_patience;
     UniqueFd m_wake; // readable when there is something new

@@ -5,8 +5,11 @@
 
 // The owner of a child process.
 
+#include "Platform/posix/UniqueFd.h"
+
 #include <sys/types.h>
 
+#include <chrono>
 #include <utility>
 
 namespace zt {
@@ -16,11 +19,14 @@ namespace zt {
 class OwnedChild {
 public:
     explicit OwnedChild(pid_t pid) : m_pid(pid) {}
-    OwnedChild(OwnedChild &&other) noexcept : m_pid(std::exchange(other.m_pid, 0)) {}
+    OwnedChild(OwnedChild &&other) noexcept
+        : m_pid(std::exchange(other.m_pid, 0))
+        , m_end(std::move(other.m_end)) {}
     OwnedChild(const OwnedChild &) = delete;
     OwnedChild &operator=(const OwnedChild &) = delete;
     OwnedChild &operator=(OwnedChild &&other) noexcept {
         std::swap(m_pid, other.m_pid);
+        std::swap(m_end, other.m_end);
         return *this;
     }
     // Takes note of the end, if that has come.
@@ -32,11 +38,19 @@ public:
     // Whether the child has ended. Takes no note of it.
     bool hasEnded();
 
+    // Blocks until the child has ended, or the time is over.
+    void waitForEnd(std::chrono::microseconds atMost);
+
     // Sends the signal to all processes of the group that the child leads.
     void signalGroup(int signal) const;
 
+    // A descriptor that is readable once the child has ended, still owned by this; negative when
+    // there is none to be had.
+    int end();
+
 private:
     pid_t m_pid = 0;
+    UniqueFd m_end; // made when it is first asked for
 };
 
 } // namespace zt

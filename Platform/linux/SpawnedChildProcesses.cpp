@@ -12,11 +12,6 @@
 #include <array>
 #include <new>
 
-#include <poll.h>
-extern "C" { // which the header of older C libraries forgets to say
-#include <sys/pidfd.h>
-}
-
 namespace zt {
 
 namespace {
@@ -40,15 +35,7 @@ Result<QByteArray> everythingFrom(int pipe) try {
 
 // Closing its output is the last thing but one that a program does, so its end is hardly ever more
 // than a moment away.
-bool endsInAMoment(OwnedChild &child) {
-    if (child.hasEnded())
-        return true;
-    constexpr int moment = 1; // millisecond
-    const UniqueFd end(::pidfd_open(child.pid(), 0));
-    pollfd question = {.fd = end.get(), .events = POLLIN, .revents = 0};
-    retryInterrupted([&] { return ::poll(&question, 1, moment); });
-    return child.hasEnded();
-}
+constexpr std::chrono::milliseconds moment(1);
 
 } // namespace
 
@@ -75,7 +62,8 @@ Result<QByteArray> SpawnedChildProcesses::standardOutputOfShell(const QString &c
     input.reset();
     Result<QByteArray> bytes = everythingFrom(output.get());
     output.reset();
-    if (!endsInAMoment(*child))
+    child->waitForEnd(moment);
+    if (!child->hasEnded())
         m_leftChildren.take(std::move(*child), LeftChildren::Fate::MayGoOn);
     return bytes;
 }

@@ -64,7 +64,8 @@ std::optional<QString> ZTUtilities::runShellScript(const QString &path,
             child.terminate();
             break;
         }
-        platform.clock.sleepFor(pollInterval);
+        // There is no need to sleep on once the script has ended.
+        platform.clock.sleepFor(pollInterval, [&child](auto atMost) { child.waitForEnd(atMost); });
     }
     child.terminate();
     const zt::Result<QString> output = utf8Text(child.output(), name);

@@ -22,6 +22,11 @@ public:
         return true;
     }
 
+    void waitForEnd(std::chrono::microseconds /*atMost*/) override {
+        if (m_behaviour.questions > 0)
+            m_behaviour.questions = 0;
+    }
+
     void terminate() override {
         ++m_recorder.terminations;
         m_behaviour.questions = 0;

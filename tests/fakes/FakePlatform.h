@@ -58,6 +58,9 @@ public:
     std::chrono::system_clock::time_point now() const override;
     std::chrono::steady_clock::time_point steadyNow() const override;
     void sleepFor(std::chrono::microseconds duration) override;
+    void sleepFor(std::chrono::microseconds duration, const Wait & /*wait*/) override {
+        sleepFor(duration);
+    }
     void callAfter(std::chrono::milliseconds delay, std::function<void()> action) override;
     void advance(std::chrono::microseconds duration);
 
