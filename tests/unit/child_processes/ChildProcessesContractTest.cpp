@@ -56,6 +56,23 @@ TYPED_TEST(ChildProcessesContractTest, aProgramRunsUntilItIsTerminated) {
     EXPECT_TRUE(eventually([&] { return !(*child)->isRunning(); }));
 }
 
+TYPED_TEST(ChildProcessesContractTest, waitingEndsWithTheProgram) {
+    this->implementation.expect({.questions = 2, .output = {}});
+    const auto child = this->implementation.service.start(printsHi);
+    ASSERT_TRUE(child);
+    (*child)->waitForEnd(std::chrono::hours(1));
+    EXPECT_FALSE((*child)->isRunning());
+}
+
+TYPED_TEST(ChildProcessesContractTest, waitingForAProgramThatGoesOnIsOverInTime) {
+    this->implementation.expect({.questions = -1, .output = {}});
+    const auto child = this->implementation.service.start(goesOn);
+    ASSERT_TRUE(child);
+    (*child)->waitForEnd(std::chrono::milliseconds(1));
+    EXPECT_TRUE((*child)->isRunning());
+    (*child)->terminate();
+}
+
 TYPED_TEST(ChildProcessesContractTest, anEndedProgramMayBeTerminated) {
     this->implementation.expect({.questions = 0, .output = {}});
     const auto child = this->implementation.service.start(printsHi);
