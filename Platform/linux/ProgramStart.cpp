@@ -51,9 +51,10 @@ int addActions(FileActions &actions, const ProgramStart &start) {
         add(::posix_spawn_file_actions_adddup2, actions.get(), start.output, STDOUT_FILENO);
     if (start.errors >= 0)
         add(::posix_spawn_file_actions_adddup2, actions.get(), start.errors, STDERR_FILENO);
-    if (!start.hasInput)
+    if (!start.hasInput) {
         add(::posix_spawn_file_actions_addopen, actions.get(), STDIN_FILENO, "/dev/null", O_RDONLY,
             mode_t(0));
+    }
     // Descriptors of other libraries and of the program around this one need not close on exec.
     add(::posix_spawn_file_actions_addclosefrom_np, actions.get(), STDERR_FILENO + 1);
     if (!start.workingFolder.empty())
@@ -101,9 +102,10 @@ Result<OwnedChild> startProgram(const ProgramStart &start) {
     pid_t pid = -1;
     // The child borrows this process's memory until exec, so that a large process starts programs
     // as quickly as a small one.
-    if (code == 0)
+    if (code == 0) {
         code = ::posix_spawn(&pid, start.program.c_str(), actions.get(), attributes.get(),
                              arguments.data(), environ);
+    }
     if (code != 0)
         return failure(start, code);
     return OwnedChild(pid);

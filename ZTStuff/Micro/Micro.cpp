@@ -79,15 +79,16 @@ xcb_atom_t atom(xcb_connection_t *connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
-// Without a frame, but in the lists of windows: not all window managers give the keyboard to windows
-// that are in none.
+// Without a frame, but in the lists of windows: not all window managers give the keyboard to
+// windows that are in none.
 void describe(xcb_connection_t *connection, xcb_window_t window, Hints &hints) {
     xcb_ewmh_connection_t *const names = hints.get();
+    static constexpr char classNames[] = "micro\0Micro"; // two, each with its end
     std::array<char, 256> host = {};
     ::gethostname(host.data(), host.size() - 1);
     setText(connection, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, "Micro");
     setText(connection, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING,
-            std::string_view("micro\0Micro", 12));
+            std::string_view(classNames, sizeof classNames));
     setText(connection, window, XCB_ATOM_WM_CLIENT_MACHINE, XCB_ATOM_STRING, host.data());
     xcb_ewmh_set_wm_pid(names, window, static_cast<std::uint32_t>(::getpid()));
     constexpr std::array<std::uint32_t, 5> noDecorations = {2, 0, 0, 0, 0};

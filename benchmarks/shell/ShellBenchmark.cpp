@@ -20,6 +20,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <iterator>
 #include <limits>
 #include <map>
 #include <random>
@@ -61,9 +62,9 @@ void addRound(const Contest &contest, Times &times) {
     for (const auto &[name, output] : contest.contestants)
         order.push_back(name);
     for (int run = 0; run < runsInRound; ++run) {
-        std::ranges::rotate(order, order.begin() + 1);
+        std::rotate(order.begin(), order.begin() + 1, order.end());
         if (run % 2 == 0)
-            std::ranges::reverse(order);
+            std::reverse(order.begin(), order.end());
         for (const std::string &name : order) {
             const auto start = Clock::now();
             const QString text = contest.contestants.at(name)();
