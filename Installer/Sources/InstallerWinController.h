@@ -26,7 +26,8 @@ class QMessageBox;
 
 namespace zt {
 struct CopyProgress;
-}
+enum class Proof;
+} // namespace zt
 
 // One for each process. Thread: main, unless an operation says otherwise.
 class InstallerWinController final : public QObject {
@@ -100,6 +101,9 @@ public:
     // key was held, then makes it known to the desktop and launches it. No value for success, an
     // empty text when the user did not give consent, else the key of a message.
     std::optional<QString> installMyselfInDestination(const std::stop_token &stop = {});
+    // Whether the copy is compared with the product at last: a disk that is carried about may read
+    // differently each time.
+    zt::Proof proofFor(const QString &source) const;
     // Has the privileged tool copy the product. Whether it did; `canceled`, which may be null, is
     // told whether it was the user who did not want it.
     bool authorizedInstall(const QString &source, const QString &to,

@@ -68,6 +68,11 @@ InstallerWinController::installMyselfInDestination(const std::stop_token &stop) 
     return std::nullopt;
 }
 
+zt::Proof InstallerWinController::proofFor(const QString &source) const {
+    return m_platform.workspace.volumeOf(withoutLinks(source)) ? zt::Proof::Compared
+                                                               : zt::Proof::None;
+}
+
 std::optional<QString> InstallerWinController::copyDirectly(const std::stop_token &stop) {
     const auto bytes = [this](const QString &key) {
         return QFile::encodeName(argument(key).value_or(QString())).toStdString();
@@ -91,7 +96,8 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
                 .progress =
                     [this](const zt::CopyProgress &progress) {
                         onMainThread([this, progress] { showCopyProgress(progress); });
-                    }});
+                    },
+                .proof = proofFor(argument(ZTInstallerKeySourcePath).value_or(QString()))});
     onMainThread([this] { hideCopyProgress(); });
     switch (result) {
     case InstallResult::Success:

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "Platform/posix/StagedCopy.h"
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include <QProgressBar>
@@ -125,6 +126,22 @@ TEST_F(InstallTest, theBarShowsHowMuchIsCopied) {
     EXPECT_TRUE(std::is_sorted(values.begin(), full));
     EXPECT_FALSE(shown("copyProgress"));
     EXPECT_FALSE(shown("stopButton"));
+}
+
+TEST_F(InstallTest, onlyWhatComesFromAMediumIsCompared) {
+    platform.workspace.volumes = {path(u"Disk"_s)};
+    start();
+    EXPECT_EQ(controller().proofFor(product), zt::Proof::Compared);
+    EXPECT_EQ(controller().proofFor(path(u"Downloads/Demo.app"_s)), zt::Proof::None);
+    install();
+    EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
+}
+
+TEST_F(InstallTest, aLinkToAMediumCountsAsTheMedium) {
+    platform.workspace.volumes = {path(u"Disk"_s)};
+    QFile::link(path(u"Disk"_s), path(u"Desktop link"_s));
+    start();
+    EXPECT_EQ(controller().proofFor(path(u"Desktop link/Demo.app"_s)), zt::Proof::Compared);
 }
 
 TEST_F(InstallTest, aMissingSourceIsReportedAndLosesNothing) {
