@@ -117,7 +117,7 @@ TEST_F(ScriptTest, aScriptThatIsDoneInTimeLeavesItsDaemonAlone) {
 
 TEST_F(ScriptTest, aTimeoutAnswersWhatWasPrintedBefore) {
     holdClockUntil(folder.path("ready"));
-    EXPECT_EQ(run("echo before; : >" + folder.path("ready") + "; exec sleep 600", 0.25),
+    EXPECT_EQ(run("echo before; echo >" + folder.path("ready") + "; exec sleep 600", 0.25),
               u"before\n"_s);
     EXPECT_EQ(fakes.log.lines(), QStringList{u"script timeout: tool (null)"_s});
     EXPECT_THAT(temporaryFiles(), IsEmpty());
@@ -127,7 +127,7 @@ TEST_F(ScriptTest, aTimeoutAnswersWhatWasPrintedBefore) {
 TEST_F(ScriptTest, aTimeoutEndsAllThatWasStarted) {
     const std::string pidFile = folder.path("pid");
     holdClockUntil(folder.path("ready"));
-    run("sleep 600 & echo $! >" + pidFile + "; : >" + folder.path("ready") + "; wait", 0.25);
+    run("sleep 600 & echo $! >" + pidFile + "; echo >" + folder.path("ready") + "; wait", 0.25);
     EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
     EXPECT_TRUE(eventually(hasNoChildren));
 }
@@ -135,7 +135,8 @@ TEST_F(ScriptTest, aTimeoutEndsAllThatWasStarted) {
 TEST_F(ScriptTest, whoRefusesToEndIsForced) {
     const std::string pidFile = folder.path("pid");
     holdClockUntil(folder.path("ready"));
-    run("trap '' TERM; sleep 600 & echo $! >" + pidFile + "; : >" + folder.path("ready") + "; wait",
+    run("trap '' TERM; sleep 600 & echo $! >" + pidFile + "; echo >" + folder.path("ready") +
+            "; wait",
         0.25);
     EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
     EXPECT_TRUE(eventually(hasNoChildren));
@@ -143,10 +144,8 @@ TEST_F(ScriptTest, whoRefusesToEndIsForced) {
 
 TEST_F(ScriptTest, whoRefusesIsForcedAlsoWhenTheScriptItselfHasEnded) {
     const std::string pidFile = folder.path("pid");
-    holdClockUntil(folder.path("ready"));
-    run("(trap '' TERM; : >" + folder.path("ready") + "; exec sleep 600) & echo $! >" + pidFile +
-            "; wait",
-        0.25);
+    holdClockUntil(pidFile);
+    run("sh -c \"trap '' TERM; echo \\$\\$ >" + pidFile + "; exec sleep 600\" & wait", 0.25);
     EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
     EXPECT_TRUE(eventually(hasNoChildren));
 }

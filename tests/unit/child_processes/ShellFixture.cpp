@@ -4,7 +4,6 @@
 #include "tests/unit/child_processes/ShellFixture.h"
 
 #include <chrono>
-#include <filesystem>
 #include <thread>
 
 #include <csignal>
@@ -58,7 +57,7 @@ std::vector<std::string> ShellFixture::temporaryFiles() const {
 }
 
 void ShellFixture::holdClockUntil(const std::string &file) {
-    clock.condition = [file] { return std::filesystem::exists(file); };
+    clock.condition = [file] { return zt::testing::contentOf(file).ends_with('\n'); };
 }
 
 pid_t ShellFixture::processIn(const std::string &file) {

@@ -62,7 +62,7 @@ protected:
     // The names of the files that are there for temporary content.
     std::vector<std::string> temporaryFiles() const;
 
-    // The clock stands still until the file is there.
+    // The clock stands still until the file has a whole line.
     void holdClockUntil(const std::string &file);
 
     // The number in the first line of the file.
