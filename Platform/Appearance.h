@@ -10,6 +10,15 @@
 
 namespace zt {
 
+// Each from 0 to 1.
+struct AccentColor {
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+
+    bool operator==(const AccentColor &) const = default;
+};
+
 // Thread: main, for all operations.
 class Appearance {
 public:
@@ -26,6 +35,10 @@ public:
 
     // The tint that the user chose; blue when the desktop does not tell.
     virtual ControlTint controlTint() const = 0;
+
+    // The colour that the user chose for what is to stand out; no value when he chose none, or the
+    // desktop does not tell.
+    virtual std::optional<AccentColor> accentColor() const = 0;
 
     // Calls `changed` on the main thread whenever one of the above changes. One listener for each
     // owner; a later call replaces it, an empty function removes it.

@@ -3,6 +3,7 @@
 
 #include "Platform/linux/PortalAppearance.h"
 
+#include "Platform/linux/AccentColorIndex.h"
 #include "Platform/linux/SettingsFiles.h"
 
 #include <QDBusArgument>
@@ -12,6 +13,7 @@
 #include <QDBusPendingReply>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -29,9 +31,6 @@ const QString accentColorKey = u"accent-color"_s;
 
 constexpr int firstAnswerTimeout = 100; // milliseconds
 constexpr int laterAnswerTimeout = 25'000;
-
-// Greys that desktops offer as accent colours are not without any colour at all.
-constexpr double greatestSaturationOfGrey = 0.3;
 
 // The portal wraps a value once or twice, depending on its age.
 QVariant unwrapped(QVariant value) {
@@ -53,7 +52,7 @@ std::optional<Appearance::Scheme> schemeOf(const QVariant &value) {
 }
 
 // The value of org.freedesktop.appearance accent-color: red, green and blue, each from 0 to 1.
-// No value for anything else.
+// Numbers out of range say that there is none. No value for anything else, too.
 std::optional<AccentColor> accentColorOf(const QVariant &value) {
     const QVariant content = unwrapped(value);
     if (content.metaType() != QMetaType::fromType<QDBusArgument>())
@@ -66,18 +65,10 @@ std::optional<AccentColor> accentColorOf(const QVariant &value) {
     argument.beginStructure();
     argument >> color.red >> color.green >> color.blue;
     argument.endStructure();
-    return color;
-}
-
-// A colour with numbers out of range says that there is none.
-Appearance::ControlTint tintOf(const std::optional<AccentColor> &color) {
-    if (!color)
-        return Appearance::ControlTint::Blue;
-    const auto [least, greatest] = std::minmax({color->red, color->green, color->blue});
-    const bool isColor = least >= 0 && greatest <= 1;
-    return isColor && greatest - least <= greatestSaturationOfGrey * greatest
-               ? Appearance::ControlTint::Graphite
-               : Appearance::ControlTint::Blue;
+    const std::array parts{color.red, color.green, color.blue};
+    const bool isColor =
+        std::all_of(parts.begin(), parts.end(), [](double part) { return part >= 0 && part <= 1; });
+    return isColor ? std::optional(color) : std::nullopt;
 }
 
 // Whether the portal has only not answered yet, which is another thing than having no answer.
@@ -129,16 +120,22 @@ std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
 }
 
 Appearance::ControlTint PortalAppearance::controlTint() const {
-    if (m_tint)
-        return *m_tint;
+    const std::optional<AccentColor> color = accentColor();
+    return color && accentColorIndexOf(*color) == AccentColorIndex::Graphite ? ControlTint::Graphite
+                                                                             : ControlTint::Blue;
+}
+
+std::optional<AccentColor> PortalAppearance::accentColor() const {
+    if (m_accentColor)
+        return *m_accentColor;
     QDBusPendingReply<QDBusVariant> reply = askPortal(accentColorKey, firstAnswerTimeout);
     reply.waitForFinished();
     if (reply.isError() && !isLate(reply.error()))
-        return tintOf(accentColorInSettingsFiles(m_configurationFolder));
+        return accentColorInSettingsFiles(m_configurationFolder);
     // One that is late is not asked again, but it tells of a change.
-    m_tint = reply.isError() ? ControlTint::Blue
-                             : tintOf(accentColorOf(QVariant::fromValue(reply.value())));
-    return *m_tint;
+    m_accentColor.emplace(reply.isError() ? std::nullopt
+                                          : accentColorOf(QVariant::fromValue(reply.value())));
+    return *m_accentColor;
 }
 
 void PortalAppearance::setChangeListener(const void *owner, std::function<void()> changed) {
@@ -155,8 +152,10 @@ void PortalAppearance::settingChanged(const QString &group, const QString &key,
     if (key == colorSchemeKey) {
         setScheme(schemeOf(value.variant()));
     } else if (key == accentColorKey) {
-        const ControlTint tint = tintOf(accentColorOf(value.variant()));
-        if (std::exchange(m_tint, tint) != tint)
+        const std::optional<AccentColor> color = accentColorOf(value.variant());
+        const bool isNew = !m_accentColor || *m_accentColor != color;
+        m_accentColor.emplace(color);
+        if (isNew)
             tellListeners();
     }
 }

@@ -29,9 +29,10 @@ public:
     // listener. Settings files are read anew each time.
     std::optional<Scheme> preferredScheme() const override;
 
-    // Asks the portal the first time, for a tenth of a second at most. The tint is graphite when
-    // the accent colour is a grey.
+    // Graphite when the accent colour is a grey.
     ControlTint controlTint() const override;
+    // Asks the portal the first time, for a tenth of a second at most.
+    std::optional<AccentColor> accentColor() const override;
     void setChangeListener(const void *owner, std::function<void()> changed) override;
 
 private:
@@ -42,7 +43,8 @@ private:
     void tellListeners() const;
 
     std::optional<Scheme> m_scheme;
-    mutable std::optional<ControlTint> m_tint; // once it was asked for
+    // Once it was asked for.
+    mutable std::optional<std::optional<AccentColor>> m_accentColor;
     QString m_configurationFolder;
     bool m_isWithoutPortal = false; // it has nothing to say about the scheme, so files are asked
     std::map<const void *, std::function<void()>> m_listeners; // by owner

@@ -13,13 +13,6 @@
 
 namespace zt {
 
-// Each from 0 to 1.
-struct AccentColor {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-};
-
 // From the files of KDE and of GTK below the folder, the first of them that says something. No
 // value when none does. Thread: any, as for the next.
 std::optional<Appearance::Scheme> schemeInSettingsFiles(const QString &configurationFolder);

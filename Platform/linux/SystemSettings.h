@@ -14,8 +14,10 @@
 
 namespace zt {
 
-// The value under the key: "AppleInterfaceStyle" is "Dark" in a dark interface. No value for other
-// keys, and in a light interface. Thread: any; main for a key that is known here.
+// The value under the key. "AppleInterfaceStyle" is "Dark" in a dark interface, and missing in a
+// light one. "AppleAccentColor" is the number of the accent colour that is nearest to the user's,
+// and missing when that is blue, which it is without a choice. No value for other keys. Thread:
+// any; main for a key that is known here.
 std::optional<QVariant> systemSetting(const QString &key, const Appearance &appearance);
 
 } // namespace zt

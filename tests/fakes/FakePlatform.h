@@ -172,11 +172,13 @@ class FakeAppearance final : public zt::Appearance {
 public:
     std::optional<Scheme> preferredScheme() const override { return m_scheme; }
     ControlTint controlTint() const override { return tint; }
+    std::optional<zt::AccentColor> accentColor() const override { return accent; }
     void setChangeListener(const void *owner, std::function<void()> changed) override;
     void setScheme(std::optional<Scheme> scheme);
     std::size_t listenerCount() const { return m_listeners.size(); }
 
     ControlTint tint = ControlTint::Blue;
+    std::optional<zt::AccentColor> accent;
 
 private:
     std::optional<Scheme> m_scheme;
