@@ -4,9 +4,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // Windows of other programs, by process: which process is in front, bringing forward, hiding,
-// asking to close.
+// asking to close. And what shows behind a window of this one.
 
 #include <QList>
+#include <QRect>
 
 #include <cstdint>
 #include <functional>
@@ -44,6 +45,11 @@ public:
     // set of processes that own windows may have changed. Empty functions end that. Thread: main.
     virtual void setChangeListeners(std::function<void()> frontChanged,
                                     std::function<void()> windowsChanged) = 0;
+
+    // Asks that what is behind these parts of a translucent window of this program shows through
+    // blurred; no parts end that. In pixels of the window, whose number is the window system's own.
+    // False where the compositor does not offer it.
+    virtual bool blurBehind(std::uint64_t window, const QList<QRect> &parts) = 0;
 
 protected:
     WindowSystem() = default;

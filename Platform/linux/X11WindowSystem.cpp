@@ -66,6 +66,15 @@ xcb_atom_t internAtom(const X11Connection &connection, std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
+// Whether the window has the property, whatever it says.
+bool hasProperty(const X11Connection &connection, xcb_window_t window, xcb_atom_t property) {
+    const XcbPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        connection.get(),
+        xcb_get_property_unchecked(connection.get(), 0, window, property, XCB_ATOM_ANY, 0, 0),
+        nullptr));
+    return reply && reply->type != XCB_ATOM_NONE;
+}
+
 } // namespace
 
 X11WindowSystem::X11WindowSystem() : m_connection(X11Connection::open()) {
@@ -154,6 +163,30 @@ int X11WindowSystem::requestClose(std::int32_t pid) {
     });
     xcb_flush(m_connection->get());
     return m_connection->isOpen() ? static_cast<int>(windows.size()) : 0;
+}
+
+bool X11WindowSystem::blurBehind(std::uint64_t window, const QList<QRect> &parts) {
+    const std::scoped_lock lock(m_mutex);
+    if (!m_connection)
+        return false;
+    xcb_connection_t *connection = m_connection->get();
+    const xcb_atom_t region = internAtom(*m_connection, "_KDE_NET_WM_BLUR_BEHIND_REGION");
+    // Compositors that know the hint have it on the root window, too.
+    if (region == XCB_ATOM_NONE || !hasProperty(*m_connection, m_connection->root(), region))
+        return false;
+    const auto target = static_cast<xcb_window_t>(window);
+    std::vector<std::uint32_t> numbers;
+    for (const QRect &part : parts) {
+        for (const int number : {part.x(), part.y(), part.width(), part.height()})
+            numbers.push_back(static_cast<std::uint32_t>(number));
+    }
+    if (numbers.empty())
+        xcb_delete_property(connection, target, region);
+    else
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, target, region, XCB_ATOM_CARDINAL,
+                            32, static_cast<std::uint32_t>(numbers.size()), numbers.data());
+    xcb_flush(connection);
+    return true;
 }
 
 void X11WindowSystem::setChangeListeners(std::function<void()> frontChanged,

@@ -34,6 +34,7 @@ public:
     int requestClose(std::int32_t pid) override;
     void setChangeListeners(std::function<void()> frontChanged,
                             std::function<void()> windowsChanged) override;
+    bool blurBehind(std::uint64_t window, const QList<QRect> &parts) override;
 
 private:
     std::vector<X11ClientWindow> windowsOf(std::int32_t pid) const;

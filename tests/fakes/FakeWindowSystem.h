@@ -7,6 +7,8 @@
 
 #include "Platform/WindowSystem.h"
 
+#include <map>
+
 // Holds what the test puts in, and records what is asked of it.
 class FakeWindowSystem final : public zt::WindowSystem {
 public:
@@ -30,6 +32,10 @@ public:
         tellFrontChanged = std::move(frontChanged);
         tellWindowsChanged = std::move(windowsChanged);
     }
+    bool blurBehind(std::uint64_t window, const QList<QRect> &parts) override {
+        blurred[window] = parts;
+        return true;
+    }
 
     QList<std::int32_t> owners;
     std::optional<std::int32_t> front;
@@ -39,6 +45,7 @@ public:
     QList<std::int32_t> hiddenProcesses;
     QList<std::int32_t> shownProcesses;
     QList<std::int32_t> closeRequests;
+    std::map<std::uint64_t, QList<QRect>> blurred; // by window, as asked last
     std::function<void()> tellFrontChanged;
     std::function<void()> tellWindowsChanged;
 };
