@@ -34,10 +34,10 @@ constexpr std::array lightColors{
 };
 
 constexpr std::array darkColors{
-    RoleColor{QPalette::Window, 0xff242426},
+    RoleColor{QPalette::Window, 0xff1e1e20},
     RoleColor{QPalette::WindowText, 0xffffffff},
-    RoleColor{QPalette::Base, 0xff1e1e20},
-    RoleColor{QPalette::AlternateBase, 0xff2a2a2d},
+    RoleColor{QPalette::Base, 0xff18181a},
+    RoleColor{QPalette::AlternateBase, 0xff1d1d1f},
     RoleColor{QPalette::Text, 0xffffffff},
     RoleColor{QPalette::Button, 0xff3a3a3d},
     RoleColor{QPalette::ButtonText, 0xffffffff},
@@ -56,8 +56,14 @@ constexpr std::array darkColors{
     RoleColor{QPalette::Shadow, 0xff000000},
 };
 
+constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> textsOnBackgrounds[] = {
+    {QPalette::WindowText, QPalette::Window},
+    {QPalette::Text, QPalette::Base},
+    {QPalette::ButtonText, QPalette::Button},
+};
+
 constexpr QRgb lightDisabledText = 0xff86868b;
-constexpr QRgb darkDisabledText = 0xff818187;
+constexpr QRgb darkDisabledText = 0xff86868c;
 
 } // namespace
 
@@ -72,7 +78,14 @@ QPalette paletteForScheme(zt::Appearance::Scheme scheme) {
     return palette;
 }
 
-bool isDarkPalette(const QPalette &palette) {
-    return palette.color(QPalette::WindowText).lightness() >
-           palette.color(QPalette::Window).lightness();
+bool isDarkPalette(const QPalette &palette, const QList<QPalette::ColorRole> &passingOver) {
+    int votes = 0; // for dark, less those for light
+    for (const auto &[text, background] : textsOnBackgrounds) {
+        if (passingOver.contains(text) || passingOver.contains(background))
+            continue;
+        const bool isDark = palette.color(QPalette::Active, text).lightness() >
+                            palette.color(QPalette::Active, background).lightness();
+        votes += isDark ? 1 : -1;
+    }
+    return votes > 0;
 }
