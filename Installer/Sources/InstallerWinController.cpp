@@ -5,9 +5,8 @@
 
 #include "Installer/Sources/InstallerArguments.h"
 #include "Installer/Sources/LocalizedString.h"
-#include "Platform/Appearance.h"
 #include "Platform/Workspace.h"
-#include "ZTStuff/CocoaExtensions/AppearancePalette.h"
+#include "ZTStuff/CocoaExtensions/DynamicColorPalette.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 
@@ -19,9 +18,10 @@
 InstallerWinController::InstallerWinController(Environment environment)
     : m_environment(std::move(environment))
     , m_platform(m_environment.platform)
-    , m_platformPalette(QApplication::palette()) {
-    followAppearance();
+    , m_followedAppearance(m_platform.appearance) {
     m_ui.setupUi(&m_window);
+    followDynamicColor(*m_ui.messageField, QPalette::WindowText,
+                       ZTDynamicColor::redWarningTextColor());
     m_window.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                             Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     m_ui.mainScrollArea->viewport()->setAutoFillBackground(false);
@@ -62,10 +62,7 @@ InstallerWinController::InstallerWinController(Environment environment)
     });
 }
 
-InstallerWinController::~InstallerWinController() {
-    m_platform.appearance.setChangeListener(this, {});
-    QApplication::setPalette(m_platformPalette);
-}
+InstallerWinController::~InstallerWinController() = default;
 
 bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() const {
     return true;
@@ -94,31 +91,6 @@ std::optional<QString> InstallerWinController::argument(const QString &key) cons
 
 QString InstallerWinController::productName() const {
     return argument(ZTInstallerKeyProductName).value_or(QString());
-}
-
-void InstallerWinController::followAppearance() {
-    // The framework's own platform themes follow the desktop's light or dark setting in some
-    // desktops only; where theirs already fits, it stays.
-    const auto apply = [this] {
-        const auto scheme = m_platform.appearance.preferredScheme();
-        const bool wantsDark = scheme == zt::Appearance::Scheme::Dark;
-        const bool fits = !scheme || isDarkPalette(m_platformPalette) == wantsDark;
-        QApplication::setPalette(fits ? m_platformPalette : paletteForScheme(*scheme));
-    };
-    apply();
-    m_platform.appearance.setChangeListener(this, [this, apply] {
-        apply();
-        colorMessageField();
-    });
-}
-
-void InstallerWinController::colorMessageField() {
-    const QColor onLight = QColor::fromRgb(0xb3, 0x14, 0x1f);
-    const QColor onDark = QColor::fromRgb(0xff, 0x8a, 0x80);
-    QPalette palette;
-    palette.setColor(QPalette::WindowText,
-                     isDarkPalette(QApplication::palette()) ? onDark : onLight);
-    m_ui.messageField->setPalette(palette);
 }
 
 void InstallerWinController::announce(QWidget *field) {

@@ -8,6 +8,7 @@
 #include "Installer/Sources/HeldKeys.h"
 #include "Platform/Bundles.h"
 #include "Platform/Platform.h"
+#include "ZTStuff/CocoaExtensions/FollowedAppearance.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
 #include "ui_InstallerWindow.h"
 
@@ -143,10 +144,6 @@ private:
     void showSystemVersionAlert(const std::optional<QString> &version,
                                 const QString &minimumSystemVersion);
 
-    // The appearance that the user prefers, also when that changes.
-    void followAppearance();
-    void colorMessageField();
-
     // Has the operation run on the main thread, without waiting for it. Thread: any.
     template <typename Operation>
     void onMainThread(Operation operation) {
@@ -172,10 +169,10 @@ private:
 
     Environment m_environment;
     const zt::Platform &m_platform;
+    FollowedAppearance m_followedAppearance; // before the window, which is made in it
     QDialog m_window;
     Ui::InstallerWindow m_ui;
-    QPalette m_platformPalette; // the one that the desktop gave at start
-    QVariantMap m_arguments;    // fixed once start-up is done; the install thread reads it
+    QVariantMap m_arguments; // fixed once start-up is done; the install thread reads it
     bool m_finished = false;
     HeldKeys m_heldKeys;
     bool m_forcesAuthorization = false; // set before the install thread starts

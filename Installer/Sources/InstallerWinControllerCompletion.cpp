@@ -29,7 +29,6 @@ constexpr float longestQuitDelay = 2'000'000; // seconds
 
 void InstallerWinController::installationFinished(const std::optional<QString> &message) {
     if (message) {
-        colorMessageField();
         m_ui.messageField->setText(*message);
         m_ui.messageField->setVisible(!message->isEmpty());
         m_ui.cancelButton->setEnabled(true);
