@@ -69,8 +69,12 @@ public:
 
 private:
     void applyColors() const {
-        for (PaletteFollower *follower : m_followers.values())
-            follower->applyColors();
+        // Widgets may come and go when their palettes change.
+        const QList<const QWidget *> widgets = m_followers.keys();
+        for (const QWidget *widget : widgets) {
+            if (PaletteFollower *follower = m_followers.value(widget))
+                follower->applyColors();
+        }
     }
 
     QHash<const QWidget *, PaletteFollower *> m_followers;

@@ -15,6 +15,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -65,10 +66,10 @@ VisualEffectView *wrapInVisualEffectView(QWidget &receiver) {
     effectView->setGeometry(receiver.geometry());
     // A layout knows where the view was; it hands the place over.
     QLayout *layout = superview != nullptr ? superview->layout() : nullptr;
-    const bool isLaidOut = layout != nullptr && layout->indexOf(&receiver) >= 0;
-    if (isLaidOut) {
-        effectView->setSizePolicy(receiver.sizePolicy());
-        delete layout->replaceWidget(&receiver, effectView);
+    effectView->setSizePolicy(receiver.sizePolicy());
+    const std::unique_ptr<QLayoutItem> place(
+        layout != nullptr ? layout->replaceWidget(&receiver, effectView) : nullptr);
+    if (place) {
         effectView->fillWith(receiver);
     } else {
         receiver.setParent(effectView);

@@ -29,11 +29,11 @@ namespace ZTViewExtensions {
 // go up; here it is the bottom.
 enum class PreferTop { No, Yes };
 
-// Scrolls up or down, and always to the left edge, so that the rectangle (in the view's
-// coordinates) comes into view, as much of it as fits. What is seen of the view decides. Answers
-// whether it scrolled: no for a rectangle that is seen already, yes for one whose lower edge is
-// that of what is seen, although that scrolls by nothing. Outside of a scroll area nothing moves,
-// and the answer is the same.
+// Scrolls up or down, and always to the left edge (to the right one where lines run from there), so
+// that the rectangle, in the view's coordinates, comes into view, as much of it as fits. What is
+// seen of the view decides. Answers whether it scrolled: no for a rectangle that is seen already,
+// yes for one that ends just where what is seen ends, although that scrolls by nothing. Outside of
+// a scroll area nothing moves, and the answer is the same.
 bool animatedVerticalScrollRectToVisible(QWidget &receiver, const QRectF &rect,
                                          PreferTop preferTop);
 

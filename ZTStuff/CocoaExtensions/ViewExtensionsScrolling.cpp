@@ -92,10 +92,14 @@ bool scrollRectToVisible(QWidget &receiver, const QRectF &rect, Animated /*anima
     const QPoint before = scrollPosition(*area);
     const auto scrollBy = [](QScrollBar &bar, double way) {
         // Outwards, so that a part of a pixel is seen too.
-        bar.setValue(bar.value() + static_cast<int>(way < 0 ? std::floor(way) : std::ceil(way)));
+        const double value = bar.value() + (way < 0 ? std::floor(way) : std::ceil(way));
+        bar.setValue(
+            static_cast<int>(std::clamp(value, double(bar.minimum()), double(bar.maximum()))));
     };
+    // Where lines run from the right, so does the scroll bar.
+    const double direction = area->isRightToLeft() ? -1 : 1;
     scrollBy(*area->horizontalScrollBar(),
-             leastWay(rect.left(), rect.right(), shown.left(), shown.right()));
+             direction * leastWay(rect.left(), rect.right(), shown.left(), shown.right()));
     scrollBy(*area->verticalScrollBar(),
              leastWay(rect.top(), rect.bottom(), shown.top(), shown.bottom()));
     return scrollPosition(*area) != before;

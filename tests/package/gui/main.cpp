@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include <Platform/NativePlatform.h>
+#include <ZTStuff/CocoaExtensions/DynamicColorPalette.h>
 #include <ZTStuff/CocoaExtensions/ViewExtensions.h>
 #include <ZTStuff/ZTClasses/ZTUtilities.h>
 
@@ -14,5 +15,6 @@ int main(int argc, char *argv[]) {
     const zt::ScopedPlatform current(native.services());
     QLabel label(ZTUtilities::systemVersionString());
     ZTViewExtensions::useLightAquaAppearance(label, ZTViewExtensions::LightAppearance::Forced);
+    followDynamicColor(label, QPalette::WindowText, ZTDynamicColor::redWarningTextColor());
     return label.text().isEmpty() ? 1 : 0;
 }

@@ -9,6 +9,8 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
+#include <cmath>
+#include <limits>
 #include <memory>
 
 using namespace std::chrono_literals;
@@ -237,4 +239,26 @@ TEST_F(ViewExtensionsScrollingTest, scrollingAtOnceEndsAnAnimation) {
     EXPECT_TRUE(scrollRectToVisible(*contents, {40, 0, 10, 10}, Animated::Yes));
     platform.clock.advance(whole);
     EXPECT_EQ(position().y(), 0);
+}
+
+TEST_F(ViewExtensionsScrollingTest, rectanglesWithoutMeasureLeadToTheEnds) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE(scrollRectToVisible(*contents, {infinity, infinity, 1, 1}, Animated::No));
+    EXPECT_EQ(position(), QPoint(800, 1900));
+    EXPECT_FALSE(scrollRectToVisible(*contents, {std::nan(""), std::nan(""), 1, 1}, Animated::No));
+    EXPECT_EQ(
+        endOf(animatedVerticalScrollRectToVisible(*contents, {0, -infinity, 1, 1}, PreferTop::No)),
+        QPoint(0, 0));
+    EXPECT_FALSE(
+        animatedVerticalScrollRectToVisible(*contents, {0, std::nan(""), 1, 1}, PreferTop::No));
+}
+
+TEST_F(ViewExtensionsScrollingTest, whereLinesRunFromTheRightTheScrollBarDoesToo) {
+    area->setLayoutDirection(Qt::RightToLeft);
+    QCoreApplication::processEvents();
+    area->horizontalScrollBar()->setValue(0);
+    // What is seen begins at 800, the last 200 of the contents.
+    EXPECT_FALSE(scrollRectToVisible(*contents, {810, 310, 10, 10}, Animated::No));
+    EXPECT_TRUE(scrollRectToVisible(*contents, {700, 310, 10, 10}, Animated::No));
+    EXPECT_EQ(contents->x(), -700);
 }

@@ -168,6 +168,20 @@ TEST_F(ViewExtensionsTest, aLayoutPlacesTheEffectViewInstead) {
     EXPECT_EQ(first->size(), effectView->size()) << "it fills it";
 }
 
+TEST_F(ViewExtensionsTest, aLayoutWithinALayoutHandsThePlaceOverToo) {
+    auto *outer = new QHBoxLayout(&window);
+    auto *inner = new QHBoxLayout;
+    auto *label = new QLabel(u"inner"_s);
+    outer->addLayout(inner);
+    inner->addWidget(label);
+    showWindow();
+    const VisualEffectView *effectView = wrapInVisualEffectView(*label);
+    EXPECT_EQ(inner->indexOf(effectView), 0);
+    window.resize(500, 300);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(label->size(), effectView->size());
+}
+
 TEST_F(ViewExtensionsTest, aViewWithoutASuperviewGetsAWindowAroundIt) {
     QWidget view;
     view.setGeometry(30, 40, 50, 60);

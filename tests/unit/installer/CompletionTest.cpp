@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ZTStuff/ZTClasses/ZTDynamicColor.h"
+
 #include "tests/unit/installer/InstallerFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -33,6 +35,20 @@ TEST_F(CompletionTest, aFailureShowsItsMessageAndLeavesTheButtonsUsable) {
     EXPECT_FALSE(shown("checkmarkField"));
     EXPECT_TRUE(field<QPushButton>("installButton")->isEnabled());
     EXPECT_TRUE(field<QPushButton>("cancelButton")->isEnabled());
+}
+
+TEST_F(CompletionTest, aMessageIsInTheRedOfWarningsAlsoWhenTheAppearanceChanges) {
+    start();
+    finish(u"It failed."_s);
+    const auto color = [this] {
+        QCoreApplication::processEvents();
+        return field<QLabel>("messageField")->palette().color(QPalette::WindowText);
+    };
+    const ZTDynamicColor &red = ZTDynamicColor::redWarningTextColor();
+    platform.appearance.setScheme(zt::Appearance::Scheme::Dark);
+    EXPECT_EQ(color(), red.darkAquaColor());
+    platform.appearance.setScheme(zt::Appearance::Scheme::Light);
+    EXPECT_EQ(color(), red.aquaColor());
 }
 
 TEST_F(CompletionTest, anEmptyMessageClearsTheField) {
