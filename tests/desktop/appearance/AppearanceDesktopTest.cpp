@@ -25,9 +25,10 @@ constexpr QRgb darkRed = qRgb(255, 51, 0);
 // The settings are asked for as soon as the platform is made.
 class AppearanceDesktopTest : public ScreenFixture {
 protected:
-    ~AppearanceDesktopTest() override {
+    void TearDown() override {
         portal.closeWriteChannel();
         portal.waitForFinished();
+        ScreenFixture::TearDown();
     }
 
     void startPortal(const QString &scheme) {

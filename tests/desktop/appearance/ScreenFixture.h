@@ -40,8 +40,8 @@ protected:
 
 class ScreenFixture : public testing::Test {
 protected:
-    ScreenFixture() { ZTUtilities::platformChanged(); }
-    ~ScreenFixture() override { ZTUtilities::platformChanged(); }
+    void SetUp() override { ZTUtilities::platformChanged(); }
+    void TearDown() override { ZTUtilities::platformChanged(); }
 
     static void show(QWidget &window) {
         window.show();

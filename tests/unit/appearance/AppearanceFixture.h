@@ -31,7 +31,7 @@ protected:
         forget();
         setApplicationScheme(Scheme::Light);
     }
-    ~AppearanceTest() override {
+    void TearDown() override {
         forget();
         QApplication::setPalette(m_palette);
     }
@@ -45,11 +45,10 @@ protected:
 
     // What the user has set.
     void setDesktopScheme(Scheme scheme) {
+        const QString key = QStringLiteral("AppleInterfaceStyle");
+        platform.userDefaults.values.remove(key);
         if (scheme == Scheme::Dark)
-            platform.userDefaults.values.insert(QStringLiteral("AppleInterfaceStyle"),
-                                                QStringLiteral("Dark"));
-        else
-            platform.userDefaults.values.remove(QStringLiteral("AppleInterfaceStyle"));
+            platform.userDefaults.values.insert(key, QStringLiteral("Dark"));
         platform.appearance.setScheme(scheme);
     }
 
