@@ -23,12 +23,11 @@ constexpr std::pair<AccentColorIndex, double> hues[] = {
 
 double hueOf(const AccentColor &color, double greatest, double range) {
     constexpr double sector = 60;
-    double hue = 4 + (color.red - color.green) / range;
     if (color.red == greatest)
-        hue = (color.green - color.blue) / range;
-    else if (color.green == greatest)
-        hue = 2 + (color.blue - color.red) / range;
-    return hue * sector;
+        return sector * ((color.green - color.blue) / range);
+    if (color.green == greatest)
+        return sector * (2 + (color.blue - color.red) / range);
+    return sector * (4 + (color.red - color.green) / range);
 }
 
 // Around the circle, whichever way is shorter.

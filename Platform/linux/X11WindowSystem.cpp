@@ -180,11 +180,12 @@ bool X11WindowSystem::blurBehind(std::uint64_t window, const QList<QRect> &parts
         for (const int number : {part.x(), part.y(), part.width(), part.height()})
             numbers.push_back(static_cast<std::uint32_t>(number));
     }
-    if (numbers.empty())
+    if (numbers.empty()) {
         xcb_delete_property(connection, target, region);
-    else
+    } else {
         xcb_change_property(connection, XCB_PROP_MODE_REPLACE, target, region, XCB_ATOM_CARDINAL,
                             32, static_cast<std::uint32_t>(numbers.size()), numbers.data());
+    }
     xcb_flush(connection);
     return true;
 }

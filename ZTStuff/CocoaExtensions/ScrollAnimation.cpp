@@ -73,8 +73,9 @@ void ScrollAnimation::step() {
         m_area.verticalScrollBar()->setValue(position.y());
     if (!stillHere)
         return;
-    if (hasArrived)
+    if (hasArrived) {
         delete this;
-    else
-        scheduleStep();
+        return;
+    }
+    scheduleStep();
 }

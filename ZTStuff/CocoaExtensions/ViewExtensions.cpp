@@ -96,10 +96,11 @@ void resetScaling(QWidget &receiver) {
         return;
     bool isInvertible = false;
     const QSizeF unit = mappedUnit(view->transform().inverted(&isInvertible));
-    if (isInvertible)
-        view->scale(unit.width(), unit.height());
-    else
+    if (!isInvertible) {
         view->resetTransform();
+        return;
+    }
+    view->scale(unit.width(), unit.height());
 }
 
 void setScale(QWidget &receiver, double scale) {

@@ -68,13 +68,16 @@ bool animatedVerticalScrollRectToVisible(QWidget &receiver, const QRectF &rect,
             wanted.moveTop(wanted.y() + wanted.height() - visible.height());
         wanted.setHeight(visible.height());
     }
+    const double visibleEnd = visible.y() + visible.height();
+    const double wantedEnd = wanted.y() + wanted.height();
     double offset = 0;
-    if (visible.y() > wanted.y())
+    if (visible.y() > wanted.y()) {
         offset = wanted.y() - visible.y();
-    else if (wanted.y() + wanted.height() >= visible.y() + visible.height())
-        offset = (wanted.y() + wanted.height()) - (visible.y() + visible.height());
-    else
+    } else if (wantedEnd >= visibleEnd) {
+        offset = wantedEnd - visibleEnd;
+    } else {
         return false;
+    }
     if (area != nullptr) {
         const auto origin = static_cast<float>(scrollPosition(*area).y() + offset);
         ScrollAnimation::start(*area, QPointF(0, static_cast<double>(origin)));

@@ -34,9 +34,10 @@ QList<QRect> coveredBy(const QWidget &window) {
         views.append(view);
     QList<QRect> covered;
     for (const VisualEffectView *view : views) {
-        if (view->isVisible() && view->window() == &window)
-            covered.append(inDevicePixels(QRect(view->mapTo(&window, QPoint()), view->size()),
-                                          window.devicePixelRatioF()));
+        if (!view->isVisible() || view->window() != &window)
+            continue;
+        const QRect place(view->mapTo(&window, QPoint()), view->size());
+        covered.append(inDevicePixels(place, window.devicePixelRatioF()));
     }
     return covered;
 }

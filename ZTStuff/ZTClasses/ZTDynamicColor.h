@@ -67,7 +67,7 @@ public:
     QColor effectiveColor() const;
 
     operator QColor() const { return effectiveColor(); }
-    operator QBrush() const { return QBrush(effectiveColor()); }
+    operator QBrush() const { return {effectiveColor()}; }
     operator QVariant() const;
 
     // Both colours and what decides.

@@ -34,15 +34,13 @@ QGroupBox *makePanel(const QString &title, std::optional<Scheme> scheme) {
     return panel;
 }
 
+// On the panel itself.
 Swatch *makeTextSwatch(const QString &text, std::function<QColor()> color) {
-    // The background is a plain colour of the panel's palette.
-    auto *swatch = new Swatch({.text = text, .textColor = std::move(color), .background = [] {
-                                   return QColor(Qt::transparent);
-                               }});
-    return swatch;
+    const auto nothing = [] { return QColor(Qt::transparent); };
+    return new Swatch({.text = text, .textColor = std::move(color), .background = nothing});
 }
 
-Swatch *makeFilledSwatch(const QString &text, std::function<QColor()> color) {
+Swatch *makeFilledSwatch(const QString &text, const std::function<QColor()> &color) {
     return new Swatch(
         {.text = text, .textColor = [color] { return textColorOn(color()); }, .background = color});
 }

@@ -21,8 +21,6 @@
 #include <QScrollArea>
 #include <QSlider>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 using namespace ZTViewExtensions;
 
@@ -90,9 +88,9 @@ QWidget *makeScrolling() {
 
 class Card final : public QAbstractButton {
 public:
-    Card(const QString &name, ZTDynamicColor color, QWidget *parent)
+    Card(const QString &name, const ZTDynamicColor &color, QWidget *parent)
         : QAbstractButton(parent)
-        , m_color(std::move(color)) {
+        , m_color(color) {
         setText(name);
     }
 
