@@ -3,6 +3,9 @@
 
 #include "tests/fakes/FakeProcessManager.h"
 
+#include <QCoreApplication>
+#include <QThread>
+
 #include <algorithm>
 
 using zt::ProcessSerialNumber;
@@ -58,8 +61,14 @@ void FakeProcessManager::tell(Event event) {
         const std::scoped_lock lock(m_mutex);
         listener = m_listener;
     }
-    if (listener)
+    if (!listener)
+        return;
+    QCoreApplication *const application = QCoreApplication::instance();
+    if (!application || QThread::currentThread() == application->thread())
         listener(event);
+    else
+        QMetaObject::invokeMethod(
+            application, [listener, event] { listener(event); }, Qt::QueuedConnection);
 }
 
 bool FakeProcessManager::hasListener() const {

@@ -26,8 +26,8 @@ struct FakeProcess {
     bool isApplication = true;
 };
 
-// Processes start, end and come to the front when the test says so, and the listener hears of it at
-// once. Thread: any, but start(), end() and bringToFront() are for the main thread.
+// Processes start, end and come to the front when the test says so, and the listener hears of it on
+// the main thread: at once when that is where it happens. Thread: any.
 class FakeProcessManager final : public zt::ProcessManager {
 public:
     // The process with the id begins to run; an earlier one with that id must have ended.
