@@ -7,7 +7,7 @@ namespace zt {
 
 const Mpg123Library *mpg123Library() {
     static const Mpg123Library loaded;
-    static const bool isReady = loaded.library.isComplete() && loaded.mpg123_init() == MPG123_OK;
+    static const bool isReady = loaded.file.isComplete() && loaded.mpg123_init() == MPG123_OK;
     return isReady ? &loaded : nullptr;
 }
 

@@ -12,9 +12,9 @@
 namespace zt {
 
 struct Mpg123Library {
-    SharedLibrary library{"libmpg123.so.0"};
+    SharedLibrary file{"libmpg123.so.0"};
 
-#define VELMORA_IMPORT(name) decltype(&::name) name = library.function<decltype(&::name)>(#name)
+#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
     VELMORA_IMPORT(mpg123_delete);
     VELMORA_IMPORT(mpg123_feed);
     VELMORA_IMPORT(mpg123_getformat);

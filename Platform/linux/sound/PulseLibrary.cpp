@@ -7,7 +7,7 @@ namespace zt {
 
 const PulseLibrary *pulseLibrary() {
     static const PulseLibrary loaded;
-    return loaded.library.isComplete() ? &loaded : nullptr;
+    return loaded.file.isComplete() ? &loaded : nullptr;
 }
 
 } // namespace zt

@@ -13,9 +13,9 @@
 namespace zt {
 
 struct PulseLibrary {
-    SharedLibrary library{"libpulse.so.0"};
+    SharedLibrary file{"libpulse.so.0"};
 
-#define VELMORA_IMPORT(name) decltype(&::name) name = library.function<decltype(&::name)>(#name)
+#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
     VELMORA_IMPORT(pa_channel_map_init_extend);
     VELMORA_IMPORT(pa_context_connect);
     VELMORA_IMPORT(pa_context_disconnect);

@@ -46,7 +46,7 @@ void PulsePlay::end(Ended how) {
 }
 
 void PulsePlay::begin(const PulseServer &server) {
-    m_library = &server.library;
+    m_library = &server.calls;
     m_context = server.context;
     if (isTooLate())
         end(Ended::Early);

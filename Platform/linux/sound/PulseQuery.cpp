@@ -44,7 +44,7 @@ bool PulseQuery::isAnswered() const {
 }
 
 void PulseQuery::begin(const PulseServer &server) {
-    m_library = &server.library;
+    m_library = &server.calls;
     m_received = {};
     m_outstanding = 1; // until all has been asked
     await(m_library->pa_context_get_server_info(server.context, receiveServer, this));

@@ -11,7 +11,7 @@ namespace zt {
 
 // A connection to the server, as requests see it.
 struct PulseServer {
-    const PulseLibrary &library;
+    const PulseLibrary &calls;
     pa_context *context;
 };
 

@@ -7,7 +7,7 @@ namespace zt {
 
 const SndfileLibrary *sndfileLibrary() {
     static const SndfileLibrary loaded;
-    return loaded.library.isComplete() ? &loaded : nullptr;
+    return loaded.file.isComplete() ? &loaded : nullptr;
 }
 
 } // namespace zt

@@ -12,9 +12,9 @@
 namespace zt {
 
 struct SndfileLibrary {
-    SharedLibrary library{"libsndfile.so.1"};
+    SharedLibrary file{"libsndfile.so.1"};
 
-#define VELMORA_IMPORT(name) decltype(&::name) name = library.function<decltype(&::name)>(#name)
+#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
     VELMORA_IMPORT(sf_open_virtual);
     VELMORA_IMPORT(sf_close);
     VELMORA_IMPORT(sf_readf_float);
