@@ -6,6 +6,7 @@
 // when a colour of each follows, and when they have no colours of their own.
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 
 #include "Platform/NativePlatform.h"
 
@@ -18,7 +19,6 @@
 #include <QGridLayout>
 #include <QLabel>
 
-#include <algorithm>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -37,11 +37,6 @@ constexpr int columns = 25;
 constexpr int rounds = 15;
 
 volatile QRgb lookedAt = 0;
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 double nanoseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::nano>(duration).count();
@@ -78,9 +73,9 @@ void benchResolving() {
         }
     }
     for (const Case &each : cases)
-        zt::printBenchLine("appearance.resolve", each.metric, median(each.times));
+        zt::printBenchLine("appearance.resolve", each.metric, zt::median(each.times));
     zt::printBenchLine("appearance.resolve", "context_ratio_to_plain_copy",
-                       median(cases[1].times) / median(cases[0].times));
+                       zt::median(cases[1].times) / zt::median(cases[0].times));
 }
 
 enum class Labels { Plain, Following };
@@ -116,7 +111,7 @@ void benchSwitching(const char *metric, Labels labels) {
         times.push_back(switchTo(Scheme::Dark, *window));
         times.push_back(switchTo(Scheme::Light, *window));
     }
-    zt::printBenchLine("appearance.switch_1000_widgets", metric, median(times));
+    zt::printBenchLine("appearance.switch_1000_widgets", metric, zt::median(times));
 }
 
 } // namespace

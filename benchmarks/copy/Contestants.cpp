@@ -3,6 +3,7 @@
 
 #include "benchmarks/copy/Contestants.h"
 
+#include "benchmarks/Median.h"
 #include "benchmarks/tool/MeasuredProcess.h"
 
 #include <sys/wait.h>
@@ -115,11 +116,6 @@ Times race(const Volume &volume, const std::string &source,
         }
     }
     return times;
-}
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 double ratio(const Times &times, const Contestant &one, const Contestant &other) {

@@ -53,8 +53,6 @@ Times race(const Volume &volume, const std::string &source,
 // The median of the rounds' ratios of two contestants.
 double ratio(const Times &times, const Contestant &one, const Contestant &other);
 
-double median(std::vector<double> values);
-
 // The most memory that our copy of the source takes, in bytes.
 std::optional<std::size_t> memoryOfOurCopy(const Volume &volume, const std::string &source);
 

@@ -10,6 +10,7 @@
 
 #include "Platform/posix/SystemCalls.h"
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/copy/Contestants.h"
 #include "benchmarks/copy/SampleTree.h"
 #include "benchmarks/copy/Volumes.h"

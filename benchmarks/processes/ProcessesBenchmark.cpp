@@ -11,6 +11,7 @@
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/processes/ManyProcesses.h"
 
 #include <QAbstractEventDispatcher>
@@ -46,12 +47,6 @@ constexpr int listings = 15; // in each round, after the first one
 
 double milliseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::milli>(duration).count();
-}
-
-double median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::ranges::nth_element(values, middle);
-    return *middle;
 }
 
 class QuietLog final : public zt::Log {
@@ -209,7 +204,7 @@ void measureQuitting(ManyProcesses &processes) {
             delays.push_back(std::max(0.0, milliseconds(returned - end)));
     }
     if (!delays.empty())
-        zt::printBenchLine("processes.exit_to_return", "median_ms", median(delays));
+        zt::printBenchLine("processes.exit_to_return", "median_ms", zt::median(delays));
 }
 
 void measureWakeUps() {

@@ -9,6 +9,7 @@
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/shell/Contestants.h"
 
 #include <QFile>
@@ -37,12 +38,6 @@ using Times = std::map<std::string, std::vector<double>>; // microseconds, by co
 constexpr int rounds = 15;
 constexpr int runsInRound = 40;
 constexpr double timeout = 10;
-
-double median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::ranges::nth_element(values, middle);
-    return *middle;
-}
 
 double microseconds(Clock::duration duration) {
     return std::chrono::duration<double, std::micro>(duration).count();
@@ -88,11 +83,11 @@ void measure(const Contest &contest) {
         addRound(contest, times);
     double best = std::numeric_limits<double>::infinity();
     for (const auto &[name, values] : times) {
-        zt::printBenchLine(contest.area.c_str(), (name + "_us").c_str(), median(values));
+        zt::printBenchLine(contest.area.c_str(), (name + "_us").c_str(), zt::median(values));
         if (name != "own")
-            best = std::min(best, median(values));
+            best = std::min(best, zt::median(values));
     }
-    zt::printBenchLine(contest.area.c_str(), "ratio_to_best", median(times["own"]) / best);
+    zt::printBenchLine(contest.area.c_str(), "ratio_to_best", zt::median(times["own"]) / best);
 }
 
 // From the moment in which the program has printed the time until its caller goes on.
@@ -112,8 +107,8 @@ void measureReturn() {
             ZTUtilities::runShellScript(program, QStringList{sleep}, timeout).value_or(QString())));
         qprocess.push_back(delay(outputByQProcess({program, sleep})));
     }
-    zt::printBenchLine("shell.exit_to_return", "own_median_us", median(own));
-    zt::printBenchLine("shell.exit_to_return", "qprocess_median_us", median(qprocess));
+    zt::printBenchLine("shell.exit_to_return", "own_median_us", zt::median(own));
+    zt::printBenchLine("shell.exit_to_return", "qprocess_median_us", zt::median(qprocess));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "ZTStuff/CocoaExtensions/ZTSound.h"
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/sound/SoundServer.h"
 #include "tests/unit/sound/SoundFiles.h"
@@ -60,11 +61,7 @@ public:
 
     void add(double milliseconds) { m_values.push_back(milliseconds); }
 
-    double median() const {
-        std::vector<double> sorted = m_values;
-        std::sort(sorted.begin(), sorted.end());
-        return sorted[sorted.size() / 2];
-    }
+    double median() const { return zt::median(m_values); }
 
     double most() const { return *std::max_element(m_values.begin(), m_values.end()); }
 

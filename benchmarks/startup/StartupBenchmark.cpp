@@ -5,6 +5,7 @@
 // are started in turn, so that what else the machine does touches both alike.
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/startup/FirstPaint.h"
 
 #include <QByteArray>
@@ -31,14 +32,9 @@ std::vector<std::string> installerArguments() {
             "-destinationPath",   qgetenv("HOME").toStdString() + "/Sample Notes.app"};
 }
 
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 void printSpread(const char *name, std::vector<double> values) {
     std::sort(values.begin(), values.end());
-    std::printf("# %s: median %.1f ms, from %.1f to %.1f, %zu runs\n", name, median(values),
+    std::printf("# %s: median %.1f ms, from %.1f to %.1f, %zu runs\n", name, zt::median(values),
                 values.front(), values.back(), values.size());
 }
 
@@ -67,9 +63,9 @@ int main() {
     }
     printSpread("empty window", empty);
     printSpread("installer", installing);
-    zt::printBenchLine("startup.first_window", "empty_window_ms", median(empty));
-    zt::printBenchLine("startup.first_window", "installer_ms", median(installing));
+    zt::printBenchLine("startup.first_window", "empty_window_ms", zt::median(empty));
+    zt::printBenchLine("startup.first_window", "installer_ms", zt::median(installing));
     zt::printBenchLine("startup.first_window", "ratio_to_empty_window",
-                       median(installing) / median(empty));
+                       zt::median(installing) / zt::median(empty));
     return 0;
 }

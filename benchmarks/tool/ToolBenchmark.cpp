@@ -4,6 +4,7 @@
 // What the privileged tool costs, beside a program that does nothing.
 
 #include "benchmarks/BenchLine.h"
+#include "benchmarks/Median.h"
 #include "benchmarks/tool/MeasuredProcess.h"
 
 #include <sched.h>
@@ -11,7 +12,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -30,11 +30,6 @@ constexpr int runs = 301;
 
 constexpr const char *nothing = "/bin/true";
 const std::vector<std::string> version = {"--version"};
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 double milliseconds(std::chrono::nanoseconds time) {
     return std::chrono::duration<double, std::milli>(time).count();
@@ -75,9 +70,9 @@ bool measureStart() {
         empty.push_back(milliseconds(*emptyTime));
         tool.push_back(milliseconds(*toolTime));
     }
-    zt::printBenchLine("tool.start", "true_ms", median(empty));
-    zt::printBenchLine("tool.start", "train_ms", median(tool));
-    zt::printBenchLine("tool.start", "ratio_to_true", median(tool) / median(empty));
+    zt::printBenchLine("tool.start", "true_ms", zt::median(empty));
+    zt::printBenchLine("tool.start", "train_ms", zt::median(tool));
+    zt::printBenchLine("tool.start", "ratio_to_true", zt::median(tool) / zt::median(empty));
     return true;
 }
 
