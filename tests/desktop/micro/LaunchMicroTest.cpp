@@ -14,7 +14,7 @@
 
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/process/WindowStack.h"
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
 #include "tests/unit/copy/TemporaryFolder.h"
 
@@ -86,28 +86,11 @@ protected:
     zt::DesktopWorkspace workspace{
         {QString(), QString::fromStdString(folder.makeFolder("home")), {}, {}},
         {bundles, windowSystem, clock, fakes.log}};
-    zt::Platform services = {.log = fakes.log,
-                             .clock = clock,
-                             .childProcesses = fakes.childProcesses,
-                             .bundles = bundles,
-                             .userDefaults = fakes.userDefaults,
-                             .systemVersion = fakes.systemVersion,
-                             .loginItems = fakes.loginItems,
-                             .workspace = workspace,
-                             .appearance = fakes.appearance,
-                             .trash = fakes.trash,
-                             .windowSystem = windowSystem,
-                             .processManager = manager,
-                             .runningApplications = fakes.runningApplications,
-                             .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds,
-                             .menuBarEvents = fakes.menuBarEvents,
-                             .pasteboard = fakes.pasteboard,
-                             .userInput = fakes.userInput,
-                             .fileSystems = fakes.fileSystems};
+    zt::Platform services = platformWith(fakes, {.clock = &clock,
+                                                 .bundles = &bundles,
+                                                 .workspace = &workspace,
+                                                 .windowSystem = &windowSystem,
+                                                 .processManager = &manager});
     zt::ScopedPlatform current{services};
 };
 

@@ -14,7 +14,7 @@
 
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/process/WindowStack.h"
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
 
 #include <gmock/gmock.h>
@@ -51,28 +51,12 @@ protected:
     zt::ProcProcessManager manager{bundles, windowSystem};
     zt::PidfdRunningApplications runningApplications{clock, windowSystem};
     zt::BusApplicationEvents applicationEvents;
-    zt::Platform services = {.log = fakes.log,
-                             .clock = clock,
-                             .childProcesses = fakes.childProcesses,
-                             .bundles = bundles,
-                             .userDefaults = fakes.userDefaults,
-                             .systemVersion = fakes.systemVersion,
-                             .loginItems = fakes.loginItems,
-                             .workspace = fakes.workspace,
-                             .appearance = fakes.appearance,
-                             .trash = fakes.trash,
-                             .windowSystem = windowSystem,
-                             .processManager = manager,
-                             .runningApplications = runningApplications,
-                             .applicationEvents = applicationEvents,
-                             .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds,
-                             .menuBarEvents = fakes.menuBarEvents,
-                             .pasteboard = fakes.pasteboard,
-                             .userInput = fakes.userInput,
-                             .fileSystems = fakes.fileSystems};
+    zt::Platform services = platformWith(fakes, {.clock = &clock,
+                                                 .bundles = &bundles,
+                                                 .windowSystem = &windowSystem,
+                                                 .processManager = &manager,
+                                                 .runningApplications = &runningApplications,
+                                                 .applicationEvents = &applicationEvents});
     zt::ScopedPlatform current{services};
 };
 

@@ -10,7 +10,7 @@
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/sound/EventSoundSettings.h"
 #include "tests/desktop/sound/SoundServer.h"
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/unit/sound/SoundFiles.h"
 
 #include <QTemporaryDir>
@@ -84,28 +84,7 @@ protected:
     SoundServer server;
     FakePlatform fakes;
     zt::PulseSounds sounds{{}, patient};
-    const zt::Platform services = {.log = fakes.log,
-                                   .clock = fakes.clock,
-                                   .childProcesses = fakes.childProcesses,
-                                   .bundles = fakes.bundles,
-                                   .userDefaults = fakes.userDefaults,
-                                   .systemVersion = fakes.systemVersion,
-                                   .loginItems = fakes.loginItems,
-                                   .workspace = fakes.workspace,
-                                   .appearance = fakes.appearance,
-                                   .trash = fakes.trash,
-                                   .windowSystem = fakes.windowSystem,
-                                   .processManager = fakes.processManager,
-                                   .runningApplications = fakes.runningApplications,
-                                   .applicationEvents = fakes.applicationEvents,
-                                   .accessibility = fakes.accessibility,
-                                   .authorization = fakes.authorization,
-                                   .keyboardLayout = fakes.keyboardLayout,
-                                   .sounds = sounds,
-                                   .menuBarEvents = fakes.menuBarEvents,
-                                   .pasteboard = fakes.pasteboard,
-                                   .userInput = fakes.userInput,
-                                   .fileSystems = fakes.fileSystems};
+    const zt::Platform services = platformWith(fakes, {.sounds = &sounds});
     const zt::ScopedPlatform current{services};
 
 private:

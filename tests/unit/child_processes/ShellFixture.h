@@ -9,7 +9,7 @@
 
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/unit/copy/ScopedEnvironment.h"
 #include "tests/unit/copy/TemporaryFolder.h"
 
@@ -76,27 +76,7 @@ protected:
     FakePlatform fakes;
     ConditionalClock clock;
     zt::SpawnedChildProcesses childProcesses;
-    zt::Platform services = {.log = fakes.log,
-                             .clock = clock,
-                             .childProcesses = childProcesses,
-                             .bundles = fakes.bundles,
-                             .userDefaults = fakes.userDefaults,
-                             .systemVersion = fakes.systemVersion,
-                             .loginItems = fakes.loginItems,
-                             .workspace = fakes.workspace,
-                             .appearance = fakes.appearance,
-                             .trash = fakes.trash,
-                             .windowSystem = fakes.windowSystem,
-                             .processManager = fakes.processManager,
-                             .runningApplications = fakes.runningApplications,
-                             .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds,
-                             .menuBarEvents = fakes.menuBarEvents,
-                             .pasteboard = fakes.pasteboard,
-                             .userInput = fakes.userInput,
-                             .fileSystems = fakes.fileSystems};
+    zt::Platform services =
+        platformWith(fakes, {.clock = &clock, .childProcesses = &childProcesses});
     zt::ScopedPlatform current{services};
 };

@@ -6,7 +6,7 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/unit/process/ChildProcess.h"
 #include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
@@ -98,28 +98,7 @@ protected:
     FakePlatform m_fakes;
     zt::LinuxBundles m_reader{u"/usr/bin/none"_s};
     zt::ProcProcessManager m_manager{m_reader, m_fakes.windowSystem};
-    zt::Platform m_services{.log = m_fakes.log,
-                            .clock = m_fakes.clock,
-                            .childProcesses = m_fakes.childProcesses,
-                            .bundles = m_fakes.bundles,
-                            .userDefaults = m_fakes.userDefaults,
-                            .systemVersion = m_fakes.systemVersion,
-                            .loginItems = m_fakes.loginItems,
-                            .workspace = m_fakes.workspace,
-                            .appearance = m_fakes.appearance,
-                            .trash = m_fakes.trash,
-                            .windowSystem = m_fakes.windowSystem,
-                            .processManager = m_manager,
-                            .runningApplications = m_fakes.runningApplications,
-                            .applicationEvents = m_fakes.applicationEvents,
-                            .accessibility = m_fakes.accessibility,
-                            .authorization = m_fakes.authorization,
-                            .keyboardLayout = m_fakes.keyboardLayout,
-                            .sounds = m_fakes.sounds,
-                            .menuBarEvents = m_fakes.menuBarEvents,
-                            .pasteboard = m_fakes.pasteboard,
-                            .userInput = m_fakes.userInput,
-                            .fileSystems = m_fakes.fileSystems};
+    zt::Platform m_services = platformWith(m_fakes, {.processManager = &m_manager});
     zt::ScopedPlatform m_current{m_services};
     std::mt19937 m_random{4711};
     std::vector<Running> m_running;

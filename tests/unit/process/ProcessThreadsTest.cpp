@@ -6,6 +6,7 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
+#include "tests/fakes/PlatformWith.h"
 #include "tests/unit/process/ChildProcess.h"
 #include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
@@ -109,28 +110,7 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
     FakePlatform fakes;
     const zt::LinuxBundles reader(u"/usr/bin/none"_s);
     zt::ProcProcessManager manager(reader, fakes.windowSystem);
-    zt::Platform services = {.log = fakes.log,
-                             .clock = fakes.clock,
-                             .childProcesses = fakes.childProcesses,
-                             .bundles = fakes.bundles,
-                             .userDefaults = fakes.userDefaults,
-                             .systemVersion = fakes.systemVersion,
-                             .loginItems = fakes.loginItems,
-                             .workspace = fakes.workspace,
-                             .appearance = fakes.appearance,
-                             .trash = fakes.trash,
-                             .windowSystem = fakes.windowSystem,
-                             .processManager = manager,
-                             .runningApplications = fakes.runningApplications,
-                             .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds,
-                             .menuBarEvents = fakes.menuBarEvents,
-                             .pasteboard = fakes.pasteboard,
-                             .userInput = fakes.userInput,
-                             .fileSystems = fakes.fileSystems};
+    zt::Platform services = platformWith(fakes, {.processManager = &manager});
     const zt::ScopedPlatform current(services);
     ZTProcess::platformChanged();
     ZTProcess::installNotifications();

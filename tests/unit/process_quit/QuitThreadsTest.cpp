@@ -12,7 +12,7 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
-#include "tests/fakes/FakePlatform.h"
+#include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
 #include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
@@ -90,28 +90,10 @@ protected:
     zt::LinuxBundles reader{u"/usr/bin/none"_s};
     zt::ProcProcessManager manager{reader, fakes.windowSystem};
     zt::PidfdRunningApplications runningApplications{clock, fakes.windowSystem};
-    zt::Platform services = {.log = fakes.log,
-                             .clock = clock,
-                             .childProcesses = fakes.childProcesses,
-                             .bundles = reader,
-                             .userDefaults = fakes.userDefaults,
-                             .systemVersion = fakes.systemVersion,
-                             .loginItems = fakes.loginItems,
-                             .workspace = fakes.workspace,
-                             .appearance = fakes.appearance,
-                             .trash = fakes.trash,
-                             .windowSystem = fakes.windowSystem,
-                             .processManager = manager,
-                             .runningApplications = runningApplications,
-                             .applicationEvents = fakes.applicationEvents,
-                             .accessibility = fakes.accessibility,
-                             .authorization = fakes.authorization,
-                             .keyboardLayout = fakes.keyboardLayout,
-                             .sounds = fakes.sounds,
-                             .menuBarEvents = fakes.menuBarEvents,
-                             .pasteboard = fakes.pasteboard,
-                             .userInput = fakes.userInput,
-                             .fileSystems = fakes.fileSystems};
+    zt::Platform services = platformWith(fakes, {.clock = &clock,
+                                                 .bundles = &reader,
+                                                 .processManager = &manager,
+                                                 .runningApplications = &runningApplications});
     zt::ScopedPlatform current{services};
 };
 

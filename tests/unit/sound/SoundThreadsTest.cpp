@@ -5,6 +5,7 @@
 
 #include "Platform/linux/sound/PulseSounds.h"
 
+#include "tests/fakes/PlatformWith.h"
 #include "tests/unit/sound/SilentServer.h"
 #include "tests/unit/sound/SoundFiles.h"
 #include "tests/unit/sound/SoundFixture.h"
@@ -71,28 +72,7 @@ protected:
     }
 
     void useSoundsOn(std::unique_ptr<zt::Sounds> sounds) {
-        const zt::Platform services = {.log = platform.log,
-                                       .clock = platform.clock,
-                                       .childProcesses = platform.childProcesses,
-                                       .bundles = platform.bundles,
-                                       .userDefaults = platform.userDefaults,
-                                       .systemVersion = platform.systemVersion,
-                                       .loginItems = platform.loginItems,
-                                       .workspace = platform.workspace,
-                                       .appearance = platform.appearance,
-                                       .trash = platform.trash,
-                                       .windowSystem = platform.windowSystem,
-                                       .processManager = platform.processManager,
-                                       .runningApplications = platform.runningApplications,
-                                       .applicationEvents = platform.applicationEvents,
-                                       .accessibility = platform.accessibility,
-                                       .authorization = platform.authorization,
-                                       .keyboardLayout = platform.keyboardLayout,
-                                       .sounds = *sounds,
-                                       .menuBarEvents = platform.menuBarEvents,
-                                       .pasteboard = platform.pasteboard,
-                                       .userInput = platform.userInput,
-                                       .fileSystems = platform.fileSystems};
+        const zt::Platform services = platformWith(platform, {.sounds = sounds.get()});
         const zt::ScopedPlatform current(services);
         SoundExtensions::platformChanged();
         useSounds(platform.clock);
