@@ -3,6 +3,7 @@
 
 #include "Platform/linux/LeftChildren.h"
 
+#include "Platform/posix/BlockedSignals.h"
 #include "Platform/posix/SystemCalls.h"
 
 #include <algorithm>
@@ -21,22 +22,6 @@ using namespace std::chrono_literals;
 
 // Where the end of a child cannot be waited for, it is looked for this often.
 constexpr auto lookInterval = 50ms;
-
-// Signals are for the program's own threads.
-class BlockedSignals {
-public:
-    BlockedSignals() {
-        sigset_t all;
-        sigfillset(&all);
-        ::pthread_sigmask(SIG_SETMASK, &all, &m_before);
-    }
-    ~BlockedSignals() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
-    BlockedSignals(const BlockedSignals &) = delete;
-    BlockedSignals &operator=(const BlockedSignals &) = delete;
-
-private:
-    sigset_t m_before = {};
-};
 
 } // namespace
 

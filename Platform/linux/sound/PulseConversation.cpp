@@ -4,12 +4,11 @@
 #include "Platform/linux/sound/PulseConversation.h"
 
 #include "Platform/linux/sound/PulseSession.h"
+#include "Platform/posix/BlockedSignals.h"
 
 #include <system_error>
 #include <thread>
 #include <utility>
-
-#include <csignal> // pthread_sigmask
 
 namespace zt {
 
@@ -18,13 +17,6 @@ namespace {
 struct LoopOwner {
     void operator()(pa_mainloop *loop) const { pulseLibrary()->pa_mainloop_free(loop); }
 };
-
-// Signals are for the program's own threads.
-void blockSignals() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, nullptr);
-}
 
 } // namespace
 
@@ -35,11 +27,9 @@ std::shared_ptr<PulseConversation> PulseConversation::begin(std::string programN
     const std::shared_ptr<PulseConversation> conversation(
         new PulseConversation(std::move(programName)));
     try {
+        const BlockedSignals blocked; // also in the thread, which begins with the same
         // Detached, because nobody may wait for it without a limit; see end().
-        std::thread([conversation] {
-            blockSignals();
-            conversation->run();
-        }).detach();
+        std::thread([conversation] { conversation->run(); }).detach();
     } catch (const std::system_error &) {
         conversation->finish();
     }
