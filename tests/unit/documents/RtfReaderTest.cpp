@@ -185,7 +185,7 @@ TEST(RtfFormatTest, wordsSetTheLookOfCharacters) {
     EXPECT_FALSE(plain.fontItalic() || plain.fontUnderline() || plain.fontStrikeOut());
     EXPECT_EQ(plain.fontPointSize(), 12);
     EXPECT_EQ(plain.foreground().color(), QColor(Qt::black));
-    EXPECT_EQ(plain.fontFamilies().toStringList(), QStringList{u"Helvetica"_s});
+    EXPECT_FALSE(plain.hasProperty(QTextFormat::FontFamilies));
 }
 
 TEST(RtfFormatTest, theEndOfAGroupRestoresTheLook) {
@@ -207,12 +207,18 @@ TEST(RtfFormatTest, fontsAreFoundByTheirFamily) {
 }
 
 TEST(RtfFormatTest, namesOfFacesBecomeNamesOfFamilies) {
-    EXPECT_EQ(rtfFontFamilies(u"Helvetica-BoldOblique"_s).first(), u"Helvetica"_s);
+    EXPECT_EQ(rtfFontFamilies(u"Georgia-BoldItalic"_s).first(), u"Georgia"_s);
     EXPECT_EQ(rtfFontFamilies(u"TimesNewRomanPS-BoldMT"_s).first(), u"Times New Roman"_s);
     EXPECT_EQ(rtfFontFamilies(u"ArialMT"_s).first(), u"Arial"_s);
     EXPECT_EQ(rtfFontFamilies(u"Arial-Black"_s).first(), u"Arial-Black"_s);
     EXPECT_EQ(rtfFontFamilies(u"DejaVu Sans"_s).first(), u"DejaVu Sans"_s);
-    EXPECT_TRUE(rtfFontFamilies(u".SFNS-Regular"_s).isEmpty());
+}
+
+TEST(RtfFormatTest, textThatNobodyChoseAFontForHasTheReadersOwn) {
+    for (const QString &name : {u".SFNS-Regular"_s, u"Helvetica"_s, u"Helvetica-BoldOblique"_s,
+                                u"HelveticaNeue"_s, u"Helvetica Neue"_s, u"LucidaGrande"_s})
+        EXPECT_TRUE(rtfFontFamilies(name).isEmpty()) << name.toStdString();
+    EXPECT_FALSE(rtfFontFamilies(u"Helvetica World"_s).isEmpty());
 }
 
 TEST(RtfFormatTest, wordsSetTheLookOfParagraphs) {

@@ -46,6 +46,13 @@ QString withBlanks(const QString &name) {
     return spaced;
 }
 
+// What a text editor's documents say when nobody chose a font. Where the family is not installed,
+// its stand-in is often an old font that has few scripts.
+bool isFontOfUnstyledText(const QString &family) {
+    static const std::array families = {"Helvetica"_L1, "Helvetica Neue"_L1, "Lucida Grande"_L1};
+    return std::ranges::find(families, family) != families.end();
+}
+
 } // namespace
 
 QStringList rtfFontFamilies(const QString &name) {
@@ -54,6 +61,8 @@ QStringList rtfFontFamilies(const QString &name) {
         return {};
     QStringList families = {trimmed};
     const QString family = withoutStyle(trimmed);
+    if (isFontOfUnstyledText(withBlanks(family)))
+        return {};
     for (const QString &candidate : {family, withBlanks(family)}) {
         if (!families.contains(candidate))
             families.append(candidate);

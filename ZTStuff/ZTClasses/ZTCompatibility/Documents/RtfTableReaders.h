@@ -9,8 +9,9 @@
 
 #include <QString>
 
-// The families to try for a font's name as it is written there: "Helvetica-Bold" is "Helvetica",
-// "TimesNewRomanPSMT" is "Times New Roman". Empty for the names of a system's own hidden fonts.
+// The families to try for a font's name as it is written there: "Georgia-Bold" is "Georgia",
+// "TimesNewRomanPSMT" is "Times New Roman". Empty where the reader's own font is to be taken: for
+// the names of a system's hidden fonts, and for the fonts of text that nobody chose a font for.
 // Thread: any.
 QStringList rtfFontFamilies(const QString &name);
 
