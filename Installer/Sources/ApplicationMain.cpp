@@ -27,7 +27,7 @@ int applicationMain(int argumentCount, char **argumentVector) {
                    stderr);
         return 1;
     }
-    const std::jthread preparation = zt::beginPreparingTexts();
+    std::jthread preparation = zt::beginPreparingTexts();
     QStringList arguments;
     for (int i = 0; i < argumentCount; ++i)
         arguments << QString::fromLocal8Bit(argumentVector[i]);
@@ -38,6 +38,7 @@ int applicationMain(int argumentCount, char **argumentVector) {
 
     const zt::NativePlatform native(arguments);
     const zt::ScopedPlatform current(native.services());
+    preparation.join(); // or else the first text would do all of it once more
     InstallerWinController controller({.platform = native.services(),
                                        .argumentVector = arguments,
                                        .redirectStandardStreams = redirectStandardStreams});

@@ -3,6 +3,7 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "Installer/Sources/FirstPaint.h"
 #include "Installer/Sources/IconFile.h"
 #include "Installer/Sources/InstallerArguments.h"
 #include "Installer/Sources/LocalizedString.h"
@@ -171,8 +172,10 @@ void InstallerWinController::showWindow() {
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
-    if (const auto self = ZTProcess::currentProcess())
-        self->setFrontProcess();
+    callAfterFirstPaint(m_window, [] {
+        if (const auto self = ZTProcess::currentProcess())
+            self->setFrontProcess();
+    });
 }
 
 void InstallerWinController::showSystemVersionAlert(const std::optional<QString> &version,
