@@ -4,14 +4,14 @@
 #include "Platform/linux/AtSpiAccessibility.h"
 
 #include "Platform/linux/AccessibilityEventNames.h"
+#include "Platform/linux/AtSpiLibrary.h"
+#include "Platform/linux/GLibPointer.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QThread>
-
-#include <atspi/atspi.h>
 
 #include <map>
 #include <string>
@@ -27,11 +27,16 @@ namespace {
 // started: a program that takes longer can be asked again.
 constexpr int patience = 500;
 
+// The functions of the library; it is there wherever the bus was connected to.
+const AtSpiLibrary &atSpi() {
+    return *atSpiLibrary();
+}
+
 struct AtSpiDeleter {
-    void operator()(gpointer object) const { g_object_unref(object); }
-    void operator()(gchar *text) const { g_free(text); }
-    void operator()(GError *error) const { g_error_free(error); }
-    void operator()(AtspiEvent *event) const { g_boxed_free(ATSPI_TYPE_EVENT, event); }
+    void operator()(gpointer object) const { atSpi().g_object_unref(object); }
+    void operator()(AtspiEvent *event) const {
+        atSpi().g_boxed_free(atSpi().atspi_event_get_type(), event);
+    }
 };
 
 template <typename T>
@@ -39,7 +44,7 @@ using AtSpiPointer = std::unique_ptr<T, AtSpiDeleter>;
 
 // An error from what the library reported; it need not have reported anything.
 Error errorFrom(const char *operation, std::string object, GError *reported) {
-    const AtSpiPointer<GError> owner(reported);
+    const GLibPointer<GError> owner(reported);
     return {operation, std::move(object), reported ? reported->message : "no answer"};
 }
 
@@ -68,12 +73,14 @@ Result<void> connectToBus() {
     static bool isConnected = false;
     if (isConnected)
         return {};
+    if (!atSpiLibrary())
+        return Error{"connect to", "accessibility bus", "the library libatspi is not installed"};
     if (!hasAccessibilityBus())
         return Error{"connect to", "accessibility bus", "there is none"};
     // 1 says that somebody else in this program was here before.
-    if (const int status = atspi_init(); status != 0 && status != 1)
+    if (const int status = atSpi().atspi_init(); status != 0 && status != 1)
         return Error{"connect to", "accessibility bus", "refused"};
-    atspi_set_timeout(patience, patience);
+    atSpi().atspi_set_timeout(patience, patience);
     isConnected = true;
     return {};
 }
@@ -85,19 +92,19 @@ Result<AtSpiPointer<AtspiAccessible>> findApplication(std::int32_t pid) {
         return applicationError(pid, "no such process");
     if (Result<void> connected = connectToBus(); !connected)
         return connected.error();
-    const AtSpiPointer<AtspiAccessible> desktop(atspi_get_desktop(0));
+    const AtSpiPointer<AtspiAccessible> desktop(atSpi().atspi_get_desktop(0));
     if (!desktop)
         return applicationError(pid, "no desktop");
     GError *error = nullptr;
-    const int count = atspi_accessible_get_child_count(desktop.get(), &error);
+    const int count = atSpi().atspi_accessible_get_child_count(desktop.get(), &error);
     if (error)
         return errorFrom("list", "user interfaces", error);
     for (int index = 0; index < count; ++index) {
         // One that cannot be asked is not the one: its process would have been told by the bus.
         AtSpiPointer<AtspiAccessible> candidate(
-            atspi_accessible_get_child_at_index(desktop.get(), index, nullptr));
-        if (candidate &&
-            atspi_accessible_get_process_id(candidate.get(), nullptr) == static_cast<guint>(pid))
+            atSpi().atspi_accessible_get_child_at_index(desktop.get(), index, nullptr));
+        if (candidate && atSpi().atspi_accessible_get_process_id(candidate.get(), nullptr) ==
+                             static_cast<guint>(pid))
             return candidate;
     }
     return applicationError(pid, "it shows none");
@@ -107,8 +114,8 @@ Result<AtSpiPointer<AtspiAccessible>> findApplication(std::int32_t pid) {
 QString describe(AtspiAccessible *element) {
     if (!element)
         return {};
-    const AtSpiPointer<gchar> role(atspi_accessible_get_role_name(element, nullptr));
-    const AtSpiPointer<gchar> name(atspi_accessible_get_name(element, nullptr));
+    const GLibPointer<gchar> role(atSpi().atspi_accessible_get_role_name(element, nullptr));
+    const GLibPointer<gchar> name(atSpi().atspi_accessible_get_name(element, nullptr));
     QString text = role ? QString::fromUtf8(role.get()) : QString();
     if (name && *name)
         text += (text.isEmpty() ? u"\""_s : u" \""_s) + QString::fromUtf8(name.get()) + u'"';
@@ -132,19 +139,20 @@ public:
         , m_handler(std::move(handler))
         , m_notification(std::move(notification))
         , m_event(std::move(event))
-        , m_listener(atspi_event_listener_new(deliver, this, nullptr)) {}
+        , m_listener(atSpi().atspi_event_listener_new(deliver, this, nullptr)) {}
 
     Registration(const Registration &) = delete;
     Registration &operator=(const Registration &) = delete;
 
     ~Registration() {
-        atspi_event_listener_deregister(m_listener.get(), m_event.type.constData(), nullptr);
+        atSpi().atspi_event_listener_deregister(m_listener.get(), m_event.type.constData(),
+                                                nullptr);
     }
 
     Result<void> start() {
         GError *error = nullptr;
-        if (!atspi_event_listener_register_with_app(m_listener.get(), m_event.type.constData(),
-                                                    nullptr, m_application, &error))
+        if (!atSpi().atspi_event_listener_register_with_app(
+                m_listener.get(), m_event.type.constData(), nullptr, m_application, &error))
             return errorFrom("register for", m_event.type.toStdString(), error);
         return {};
     }

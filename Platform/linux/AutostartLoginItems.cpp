@@ -5,6 +5,7 @@
 
 #include "Platform/Bundles.h"
 #include "Platform/linux/GLibPointer.h"
+#include "Platform/linux/GioLibrary.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,12 +20,20 @@ namespace zt {
 
 namespace {
 
-bool isSwitchedOff(GDesktopAppInfo *entry) {
-    if (g_desktop_app_info_get_is_hidden(entry) || !g_desktop_app_info_get_show_in(entry, nullptr))
+struct EntryDeleter {
+    const GioLibrary *gio;
+    void operator()(GDesktopAppInfo *entry) const { gio->g_object_unref(entry); }
+};
+
+using Entry = std::unique_ptr<GDesktopAppInfo, EntryDeleter>;
+
+bool isSwitchedOff(const GioLibrary &gio, GDesktopAppInfo *entry) {
+    if (gio.g_desktop_app_info_get_is_hidden(entry) ||
+        !gio.g_desktop_app_info_get_show_in(entry, nullptr))
         return true;
     const char *const enabled = "X-GNOME-Autostart-enabled";
-    return g_desktop_app_info_has_key(entry, enabled) &&
-           !g_desktop_app_info_get_boolean(entry, enabled);
+    return gio.g_desktop_app_info_has_key(entry, enabled) &&
+           !gio.g_desktop_app_info_get_boolean(entry, enabled);
 }
 
 // The program in an argument list: the first word, or behind "env" the first that sets no variable.
@@ -38,8 +47,9 @@ const char *programIn(char *const *words) {
     return *words;
 }
 
-std::optional<QString> programPath(GDesktopAppInfo *entry) {
-    const char *commandLine = g_app_info_get_commandline(G_APP_INFO(entry));
+std::optional<QString> programPath(const GioLibrary &gio, GDesktopAppInfo *entry) {
+    // The interface is the object itself; the library's own cast would need the library linked.
+    const char *commandLine = gio.g_app_info_get_commandline(reinterpret_cast<GAppInfo *>(entry));
     gchar **list = nullptr;
     if (!commandLine || !g_shell_parse_argv(commandLine, nullptr, &list, nullptr))
         return std::nullopt;
@@ -71,7 +81,8 @@ AutostartLoginItems::AutostartLoginItems(QString configurationFolder, const Bund
 
 std::optional<std::vector<std::optional<QString>>> AutostartLoginItems::resolvedPaths() const {
     const QDir folder(m_configurationFolder + u"/autostart"_s);
-    if (!folder.isReadable())
+    const GioLibrary *const gio = folder.isReadable() ? gioLibrary() : nullptr;
+    if (!gio)
         return std::nullopt;
     std::vector<std::optional<QString>> paths;
     const QStringList names = folder.entryList({u"*.desktop"_s}, QDir::Files, QDir::Name);
@@ -79,11 +90,11 @@ std::optional<std::vector<std::optional<QString>>> AutostartLoginItems::resolved
         const QByteArray file = QFile::encodeName(folder.filePath(name));
         if (isMarkedHidden(file))
             continue;
-        const GLibPointer<GDesktopAppInfo> entry(
-            g_desktop_app_info_new_from_filename(file.constData()));
-        if (entry && isSwitchedOff(entry.get()))
+        const Entry entry(gio->g_desktop_app_info_new_from_filename(file.constData()),
+                          EntryDeleter{gio});
+        if (entry && isSwitchedOff(*gio, entry.get()))
             continue;
-        std::optional<QString> path = entry ? programPath(entry.get()) : std::nullopt;
+        std::optional<QString> path = entry ? programPath(*gio, entry.get()) : std::nullopt;
         if (path) {
             if (const auto bundle = m_bundles.bundleEnclosing(*path))
                 path = bundle->path();

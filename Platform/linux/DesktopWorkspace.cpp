@@ -11,6 +11,7 @@
 #include "Platform/linux/BundleIconFile.h"
 #include "Platform/linux/BundleLaunch.h"
 #include "Platform/linux/GLibPointer.h"
+#include "Platform/linux/GioLibrary.h"
 #include "Platform/linux/MediaVolume.h"
 #include "Platform/linux/registration/BundleRecord.h"
 
@@ -106,7 +107,9 @@ std::optional<QString> DesktopWorkspace::volumeOf(const QString &path) const {
 }
 
 bool DesktopWorkspace::openUrl(const QUrl &url) {
-    return g_app_info_launch_default_for_uri(url.toEncoded().constData(), nullptr, nullptr);
+    const GioLibrary *const gio = gioLibrary();
+    return gio &&
+           gio->g_app_info_launch_default_for_uri(url.toEncoded().constData(), nullptr, nullptr);
 }
 
 QString DesktopWorkspace::displayName(const QString &path) const {

@@ -3,9 +3,9 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Owners for objects of the GLib library.
+// Owners for what the GLib library allocates.
 
-#include <gio/gdesktopappinfo.h>
+#include <glib.h>
 
 #include <memory>
 
@@ -16,7 +16,6 @@ struct GLibDeleter {
     void operator()(gchar **list) const { g_strfreev(list); }
     void operator()(GError *error) const { g_error_free(error); }
     void operator()(GKeyFile *file) const { g_key_file_free(file); }
-    void operator()(GDesktopAppInfo *info) const { g_object_unref(info); }
 };
 
 template <typename T>

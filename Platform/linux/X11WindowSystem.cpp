@@ -77,17 +77,24 @@ bool hasProperty(const X11Connection &connection, xcb_window_t window, xcb_atom_
 
 } // namespace
 
-X11WindowSystem::X11WindowSystem() : m_connection(X11Connection::open()) {
-    if (m_connection)
-        m_clientWindows = std::make_unique<X11ClientWindows>(*m_connection);
-}
+X11WindowSystem::X11WindowSystem() = default;
 
 X11WindowSystem::~X11WindowSystem() = default;
+
+// The caller holds the lock.
+X11Connection *X11WindowSystem::connection() const {
+    if (!m_connection) {
+        m_connection.emplace(X11Connection::open());
+        if (*m_connection)
+            m_clientWindows = std::make_unique<X11ClientWindows>(**m_connection);
+    }
+    return m_connection->get();
+}
 
 QList<std::int32_t> X11WindowSystem::processesWithWindows() const {
     const std::scoped_lock lock(m_mutex);
     QList<std::int32_t> pids;
-    if (!m_connection)
+    if (!connection())
         return pids;
     for (const X11ClientWindow &window : m_clientWindows->windowsFromBottomToTop()) {
         if (!pids.contains(window.pid))
@@ -98,14 +105,15 @@ QList<std::int32_t> X11WindowSystem::processesWithWindows() const {
 
 std::optional<std::int32_t> X11WindowSystem::frontProcess() const {
     const std::scoped_lock lock(m_mutex);
-    return m_connection ? m_clientWindows->processOfActiveWindow() : std::nullopt;
+    return connection() ? m_clientWindows->processOfActiveWindow() : std::nullopt;
 }
 
 // The caller holds the lock, also in the functions that follow.
 std::vector<X11ClientWindow> X11WindowSystem::windowsOf(std::int32_t pid) const {
-    if (!m_connection)
+    X11Connection *const server = connection();
+    if (!server)
         return {};
-    m_connection->discardEvents();
+    server->discardEvents();
     std::vector<X11ClientWindow> windows = m_clientWindows->windowsFromBottomToTop();
     std::erase_if(windows, [pid](const X11ClientWindow &window) { return window.pid != pid; });
     return windows;
@@ -116,6 +124,7 @@ void X11WindowSystem::bringToFront(std::int32_t pid, Windows which) {
     const std::vector<X11ClientWindow> windows = windowsOf(pid);
     if (windows.empty())
         return;
+    X11Connection &server = *connection();
     // Only when nothing of the program can be seen does a minimised window count as its foremost.
     auto foremost = std::find_if(windows.rbegin(), windows.rend(),
                                  [](const X11ClientWindow &window) { return !window.isHidden; });
@@ -126,11 +135,11 @@ void X11WindowSystem::bringToFront(std::int32_t pid, Windows which) {
         if (which == Windows::FrontOnly || window.window == foremost->window)
             continue;
         if (window.isHidden)
-            restore(*m_connection, window);
-        raise(*m_connection, window);
+            restore(server, window);
+        raise(server, window);
     }
-    activate(*m_connection, *foremost);
-    xcb_flush(m_connection->get());
+    activate(server, *foremost);
+    xcb_flush(server.get());
 }
 
 void X11WindowSystem::setHidden(std::int32_t pid, bool hidden) {
@@ -140,14 +149,15 @@ void X11WindowSystem::setHidden(std::int32_t pid, bool hidden) {
                   [&](const X11ClientWindow &window) { return window.isHidden == hidden; });
     if (windows.empty())
         return;
-    const xcb_atom_t changeState = internAtom(*m_connection, "WM_CHANGE_STATE");
+    const X11Connection &server = *connection();
+    const xcb_atom_t changeState = internAtom(server, "WM_CHANGE_STATE");
     for (const X11ClientWindow &window : windows) {
         if (hidden)
-            minimize(*m_connection, window, changeState);
+            minimize(server, window, changeState);
         else
-            restore(*m_connection, window);
+            restore(server, window);
     }
-    xcb_flush(m_connection->get());
+    xcb_flush(server.get());
 }
 
 int X11WindowSystem::requestClose(std::int32_t pid) {
@@ -155,24 +165,26 @@ int X11WindowSystem::requestClose(std::int32_t pid) {
     const std::vector<X11ClientWindow> windows = windowsOf(pid);
     if (windows.empty())
         return 0;
-    const xcb_timestamp_t now = m_connection->serverTime();
+    X11Connection &server = *connection();
+    const xcb_timestamp_t now = server.serverTime();
     // The foremost first: a dialog in front of a document is asked before the document is.
     std::for_each(windows.rbegin(), windows.rend(), [&](const X11ClientWindow &window) {
-        sendToWindowManager(*m_connection, window.window, m_connection->hints()->_NET_CLOSE_WINDOW,
+        sendToWindowManager(server, window.window, server.hints()->_NET_CLOSE_WINDOW,
                             {now, sourceIsPager});
     });
-    xcb_flush(m_connection->get());
-    return m_connection->isOpen() ? static_cast<int>(windows.size()) : 0;
+    xcb_flush(server.get());
+    return server.isOpen() ? static_cast<int>(windows.size()) : 0;
 }
 
 bool X11WindowSystem::blurBehind(std::uint64_t window, const QList<QRect> &parts) {
     const std::scoped_lock lock(m_mutex);
-    if (!m_connection)
+    const X11Connection *const server = connection();
+    if (!server)
         return false;
-    xcb_connection_t *connection = m_connection->get();
-    const xcb_atom_t region = internAtom(*m_connection, "_KDE_NET_WM_BLUR_BEHIND_REGION");
+    xcb_connection_t *const xcb = server->get();
+    const xcb_atom_t region = internAtom(*server, "_KDE_NET_WM_BLUR_BEHIND_REGION");
     // Compositors that know the hint have it on the root window, too.
-    if (region == XCB_ATOM_NONE || !hasProperty(*m_connection, m_connection->root(), region))
+    if (region == XCB_ATOM_NONE || !hasProperty(*server, server->root(), region))
         return false;
     const auto target = static_cast<xcb_window_t>(window);
     std::vector<std::uint32_t> numbers;
@@ -181,12 +193,12 @@ bool X11WindowSystem::blurBehind(std::uint64_t window, const QList<QRect> &parts
             numbers.push_back(static_cast<std::uint32_t>(number));
     }
     if (numbers.empty()) {
-        xcb_delete_property(connection, target, region);
+        xcb_delete_property(xcb, target, region);
     } else {
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, target, region, XCB_ATOM_CARDINAL,
-                            32, static_cast<std::uint32_t>(numbers.size()), numbers.data());
+        xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, target, region, XCB_ATOM_CARDINAL, 32,
+                            static_cast<std::uint32_t>(numbers.size()), numbers.data());
     }
-    xcb_flush(connection);
+    xcb_flush(xcb);
     return true;
 }
 

@@ -20,8 +20,8 @@ struct X11ClientWindow;
 
 class X11WindowSystem final : public WindowSystem {
 public:
-    // Connects to the server that DISPLAY names. Where there is none, every answer is the neutral
-    // one, for good.
+    // The first question connects to the server that DISPLAY names. Where there is none, every
+    // answer is the neutral one, for good.
     X11WindowSystem();
     ~X11WindowSystem() override;
     X11WindowSystem(const X11WindowSystem &) = delete;
@@ -37,13 +37,15 @@ public:
     bool blurBehind(std::uint64_t window, const QList<QRect> &parts) override;
 
 private:
+    X11Connection *connection() const;
     std::vector<X11ClientWindow> windowsOf(std::int32_t pid) const;
 
-    mutable std::mutex m_mutex;                  // guards the next two
-    std::unique_ptr<X11Connection> m_connection; // null without a server
-    std::unique_ptr<X11ClientWindows> m_clientWindows;
-    std::unique_ptr<X11ChangeListener> m_changeListener; // while somebody listens
-    std::optional<std::int32_t> m_frontProcess;          // the last one that listeners know of
+    mutable std::mutex m_mutex; // guards the next two
+    // Not there before the first question; null without a server.
+    mutable std::optional<std::unique_ptr<X11Connection>> m_connection;
+    mutable std::unique_ptr<X11ClientWindows> m_clientWindows; // with the connection
+    std::unique_ptr<X11ChangeListener> m_changeListener;       // while somebody listens
+    std::optional<std::int32_t> m_frontProcess; // the last one that listeners know of
 };
 
 } // namespace zt

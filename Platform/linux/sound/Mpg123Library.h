@@ -5,7 +5,7 @@
 
 // The functions of libmpg123 that are used here.
 
-#include "Platform/linux/sound/SharedLibrary.h"
+#include "Platform/posix/SharedLibrary.h"
 
 #include <mpg123.h>
 
@@ -14,7 +14,6 @@ namespace zt {
 struct Mpg123Library {
     SharedLibrary file{"libmpg123.so.0"};
 
-#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
     VELMORA_IMPORT(mpg123_delete);
     VELMORA_IMPORT(mpg123_feed);
     VELMORA_IMPORT(mpg123_getformat);
@@ -24,7 +23,6 @@ struct Mpg123Library {
     VELMORA_IMPORT(mpg123_param2);
     VELMORA_IMPORT(mpg123_read);
     VELMORA_IMPORT(mpg123_strerror);
-#undef VELMORA_IMPORT
 };
 
 // The library, loaded and made ready by the first call; null when it is not installed.

@@ -5,7 +5,7 @@
 
 // The functions of PulseAudio's client library that are used here.
 
-#include "Platform/linux/sound/SharedLibrary.h"
+#include "Platform/posix/SharedLibrary.h"
 
 #include <pulse/ext-stream-restore.h>
 #include <pulse/pulseaudio.h>
@@ -15,7 +15,6 @@ namespace zt {
 struct PulseLibrary {
     SharedLibrary file{"libpulse.so.0"};
 
-#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
     VELMORA_IMPORT(pa_channel_map_init_extend);
     VELMORA_IMPORT(pa_context_connect);
     VELMORA_IMPORT(pa_context_disconnect);
@@ -49,7 +48,6 @@ struct PulseLibrary {
     VELMORA_IMPORT(pa_stream_set_write_callback);
     VELMORA_IMPORT(pa_stream_unref);
     VELMORA_IMPORT(pa_stream_write);
-#undef VELMORA_IMPORT
 };
 
 // The library, loaded by the first call, which takes some milliseconds; null when it is not

@@ -30,4 +30,7 @@ private:
     bool m_isComplete;
 };
 
+// A member of a struct with a SharedLibrary called `file`: the library's function of that name.
+#define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
+
 } // namespace zt
