@@ -29,6 +29,8 @@ constexpr const char *cannotMake = "this machine cannot make or mount such a vol
 struct VolumeKind {
     const char *name;
     const char *commands;
+    // How a copy of the image is mounted beside it.
+    const char *twinOptions = "loop";
 };
 
 void PrintTo(const VolumeKind &kind, std::ostream *stream) {
@@ -172,8 +174,9 @@ class PowerTest : public VolumeTest {
 protected:
     // What is on the medium at this moment, mounted as a machine would after it lost its power.
     std::string afterPowerFailure() {
-        const std::string command = "cp --sparse=always \"$image\" \"$image.now\" && "
-                                    "mount -o loop \"$image.now\" \"$folder-now\"";
+        const std::string command = "cp --sparse=always \"$image\" \"$image.now\" && mount -o " +
+                                    std::string(GetParam().twinOptions) +
+                                    " \"$image.now\" \"$folder-now\"";
         if (!runFor(m_world.path("image"), m_world.path("volume"), command))
             return "the volume is broken";
         m_trashPath = m_world.path("volume-now/home/Trash");
@@ -242,6 +245,12 @@ INSTANTIATE_TEST_SUITE_P(
                                  "loop=$(losetup --direct-io=on --find --show \"$image\") && "
                                  "{ mount $loop \"$folder\"; status=$?; losetup -d $loop; "
                                  "test $status = 0; }"},
+                      VolumeKind{"xfs",
+                                 "truncate -s 320M \"$image\" && mkfs.xfs \"$image\" && "
+                                 "loop=$(losetup --direct-io=on --find --show \"$image\") && "
+                                 "{ mount $loop \"$folder\"; status=$?; losetup -d $loop; "
+                                 "test $status = 0; }",
+                                 "loop,nouuid"},
                       VolumeKind{"btrfs",
                                  "truncate -s 128M \"$image\" && mkfs.btrfs \"$image\" && "
                                  "loop=$(losetup --direct-io=on --find --show \"$image\") && "
