@@ -3,7 +3,6 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
-#include "Installer/Sources/InstallerArguments.h"
 #include "Installer/Sources/LocalizedString.h"
 #include "Platform/Workspace.h"
 #include "ZTStuff/CocoaExtensions/DynamicColorPalette.h"
@@ -16,9 +15,9 @@
 #include <QTabBar>
 
 InstallerWinController::InstallerWinController(Environment environment)
-    : m_environment(std::move(environment))
-    , m_platform(m_environment.platform)
-    , m_followedAppearance(m_platform.appearance) {
+    : Installation(environment.platform)
+    , m_environment(std::move(environment))
+    , m_followedAppearance(platform().appearance) {
     m_ui.setupUi(&m_window);
     followDynamicColor(*m_ui.messageField, QPalette::WindowText,
                        ZTDynamicColor::redWarningTextColor());
@@ -55,7 +54,7 @@ InstallerWinController::InstallerWinController(Environment environment)
     connect(m_ui.helpButton, &QPushButton::clicked, this,
             &InstallerWinController::openDocumentation);
     connect(m_ui.readMeTextView, &QTextBrowser::anchorClicked, this,
-            [this](const QUrl &link) { m_platform.workspace.openUrl(link); });
+            [this](const QUrl &link) { platform().workspace.openUrl(link); });
     auto *escape = new QShortcut(Qt::Key_Escape, &m_window);
     connect(escape, &QShortcut::activated, this, [this] {
         (m_ui.stopButton->isVisible() ? m_ui.stopButton : m_ui.cancelButton)->click();
@@ -72,7 +71,7 @@ void InstallerWinController::selectTab(int pageIndex) {
     m_ui.tabView->setCurrentIndex(pageIndex);
     const bool mainPage = pageIndex != ReadMePage;
     m_ui.installButton->setText(localizedString(mainPage ? "Install" : "Continue"));
-    if (m_arguments.contains(ZTInstallerKeyReadMePath))
+    if (arguments().contains(ZTInstallerKeyReadMePath))
         m_ui.cancelButton->setText(localizedString(mainPage ? "Go Back" : "Cancel"));
 }
 
@@ -83,14 +82,6 @@ void InstallerWinController::showSetupError(const QString &message) {
     if (m_window.windowTitle().contains(u'%'))
         m_window.setWindowTitle({});
     showWindow();
-}
-
-std::optional<QString> InstallerWinController::argument(const QString &key) const {
-    return InstallerArguments::stringArgument(m_arguments, key);
-}
-
-QString InstallerWinController::productName() const {
-    return argument(ZTInstallerKeyProductName).value_or(QString());
 }
 
 void InstallerWinController::announce(QWidget *field) {

@@ -3,19 +3,17 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The installer's central object: fills the window, answers its buttons and runs the installation.
+// The installer's central object: an installation with a window, which it fills, and whose buttons
+// it answers.
 
 #include "Installer/Sources/HeldKeys.h"
-#include "Platform/Bundles.h"
-#include "Platform/Platform.h"
+#include "Installer/Sources/Installation.h"
 #include "ZTStuff/CocoaExtensions/FollowedAppearance.h"
-#include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
 #include "ui_InstallerWindow.h"
 
 #include <QDialog>
 #include <QObject>
 #include <QStringList>
-#include <QVariantMap>
 
 #include <functional>
 #include <memory>
@@ -23,15 +21,8 @@
 #include <stop_token>
 #include <thread>
 
-class QMessageBox;
-
-namespace zt {
-struct CopyProgress;
-enum class Proof;
-} // namespace zt
-
 // One for each process. Thread: main, unless an operation says otherwise.
-class InstallerWinController final : public QObject {
+class InstallerWinController final : public QObject, public Installation {
     Q_OBJECT
 
 public:
@@ -73,54 +64,12 @@ public:
     static constexpr int secondButtonReturnCode = 1001;
     void systemVersionAlertDidEnd(int returnCode);
 
-    // Where the installed product should go, and how paths are shown.
-    std::optional<QString> findPreferredDestinationFor(const QString &productName) const;
-    std::optional<QString> autoLaunchPathFor(const QString &productName) const;
-    std::optional<QString> pathToProcessToReplace() const;
-    bool isInUnsupportedFolder(const std::optional<QString> &path) const;
-    QString applicationsDirectory() const;
-    bool canWriteToFileOrDirectory(const QString &path) const;
-    bool canWriteToPath(const QString &path) const;
-    bool canWriteToFile(const QString &path) const;
-    bool canWriteToDirectory(const QString &folder) const;
-    QString localizedPath(const QString &path) const;
-    QString recursiveLocalizedPath(const QString &path) const;
-
-    // Quitting what must not run meanwhile. The installer itself is always spared, also when it
-    // bears one of the signatures. Thread: install.
-
-    // Whether one of the four-character codes is the signature.
-    static bool signatureIsInArray(FourCharCode signature, const QStringList &codes);
-    // Asks every running application with one of the quit codes to end, one after the other.
-    void quitProcesses() const;
-    // The name of the first of them that still runs.
-    std::optional<QString> processToQuitStillRunning() const;
-
-    // Putting the product in its place. Thread: install.
-
-    // Copies the product, with an administrator's rights where this user lacks them or the Option
-    // key was held, then makes it known to the desktop and launches it. No value for success, an
-    // empty text when the user did not give consent, else the key of a message.
-    std::optional<QString> installMyselfInDestination(const std::stop_token &stop = {});
-    // Whether the copy is compared with the product at last: a disk that is carried about may read
-    // differently each time.
-    zt::Proof proofFor(const QString &source) const;
-    // Has the privileged tool copy the product. Whether it did; `canceled`, which may be null, is
-    // told whether it was the user who did not want it.
-    bool authorizedInstall(const QString &source, const QString &to,
-                           const std::optional<QString> &wrap, bool *canceled,
-                           const std::stop_token &stop = {});
-
     // Button actions.
     void install();
     void cancel();
     void openDocumentation();
 
-    enum class Progress { Running, Stopped };
-    void animateProgress(Progress progress);
-
-    // Stops the copy, as long as the product has not appeared at its destination. Thread: any.
-    void stopCopying();
+    void animateProgress(Progress progress) override;
 
     // Shows the outcome of an installation: no message for success, else the message, empty to show
     // none.
@@ -136,47 +85,26 @@ public:
 
 private:
     // Start-up, step by step.
-    bool completeArguments(const std::optional<zt::Bundle> &product);
-    void fillIcon(const std::optional<zt::Bundle> &product);
-    void fillTexts(const std::optional<QString> &version);
+    void fillIcon();
+    void fillTexts();
     void fillReadMe();
     void showWindow();
-    void showSystemVersionAlert(const std::optional<QString> &version,
-                                const QString &minimumSystemVersion);
+    void showSystemVersionAlert();
 
-    // Has the operation run on the main thread, without waiting for it. Thread: any.
-    template <typename Operation>
-    void onMainThread(Operation operation) {
-        QMetaObject::invokeMethod(this, std::move(operation), Qt::QueuedConnection);
-    }
-
-    // The installation. Thread: install.
+    // The installation, from its first step to its outcome. Thread: install.
     void installThread(const std::stop_token &stop);
-    std::optional<QString> quitRunningCopies(const std::stop_token &stop) const;
-    std::optional<QString> copyDirectly(const std::stop_token &stop);
-    void handOver(const std::stop_token &stop);
-    bool hasIcon(const QString &path, const std::stop_token &stop);
-    QString failureMessage(const QString &messageKey) const;
 
     bool wantsDoneSound() const;
-    void showCopyProgress(const zt::CopyProgress &progress);
-    void hideCopyProgress();
+    void showCopyProgress(const zt::CopyProgress &progress) override;
+    void hideCopyProgress() override;
     void applyTimedQuit();
     void announce(QWidget *field);
 
-    std::optional<QString> argument(const QString &key) const;
-    QString productName() const;
-
     Environment m_environment;
-    const zt::Platform &m_platform;
     FollowedAppearance m_followedAppearance; // before the window, which is made in it
     QDialog m_window;
     Ui::InstallerWindow m_ui;
-    QVariantMap m_arguments; // fixed once start-up is done; the install thread reads it
     bool m_finished = false;
     HeldKeys m_heldKeys;
-    bool m_forcesAuthorization = false; // set before the install thread starts
-    std::stop_source m_copyStop;        // likewise
-    bool m_hadEarlierCopy = false;      // the install thread's own
     std::jthread m_installThread;
 };

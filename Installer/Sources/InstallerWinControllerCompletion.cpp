@@ -37,12 +37,12 @@ void InstallerWinController::installationFinished(const std::optional<QString> &
     } else {
         showFinalMessage("%@ was successfully installed.");
         if (const auto path =
-                m_platform.bundles.mainBundle().pathForResource(u"Checkmark"_s, u"svg"_s))
+                platform().bundles.mainBundle().pathForResource(u"Checkmark"_s, u"svg"_s))
             m_ui.checkmarkField->setIcon(loadIcon(*path).value_or(QIcon()));
         m_ui.checkmarkField->show();
         m_ui.cancelButton->hide();
         m_ui.cancelButton->setEnabled(false);
-        if (!m_platform.userDefaults.boolForKey(u"nosound"_s))
+        if (!platform().userDefaults.boolForKey(u"nosound"_s))
             playDoneSound();
     }
     m_ui.installButton->setEnabled(true);
@@ -60,7 +60,7 @@ void InstallerWinController::applyTimedQuit() {
     if (seconds > 0) {
         const auto delay = std::chrono::duration_cast<std::chrono::milliseconds>(
             std::chrono::duration<float>(std::min(seconds, longestQuitDelay)));
-        m_platform.clock.callAfter(delay, [] { QApplication::quit(); });
+        platform().clock.callAfter(delay, [] { QApplication::quit(); });
     }
 }
 
@@ -94,8 +94,8 @@ void InstallerWinController::openDocumentation() {
     const auto path = argument(ZTInstallerKeyDocumentationPath);
     if (!path) {
         ZTLog("documentation path missing");
-        m_platform.workspace.beep();
+        platform().workspace.beep();
         return;
     }
-    m_platform.workspace.openFile(*path);
+    platform().workspace.openFile(*path);
 }

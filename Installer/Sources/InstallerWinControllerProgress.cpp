@@ -6,7 +6,6 @@
 #include "Installer/Sources/InstallerWinController.h"
 
 #include "Platform/posix/TreeCopy.h"
-#include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 
 #include <algorithm>
 
@@ -27,9 +26,4 @@ void InstallerWinController::hideCopyProgress() {
     m_ui.copyProgress->hide();
     m_ui.stopButton->hide();
     m_ui.copyProgress->reset();
-}
-
-void InstallerWinController::stopCopying() {
-    ZTLog("User stopped copying");
-    m_copyStop.request_stop();
 }

@@ -5,7 +5,6 @@
 
 #include "Installer/Sources/FirstPaint.h"
 #include "Installer/Sources/IconFile.h"
-#include "Installer/Sources/InstallerArguments.h"
 #include "Installer/Sources/LocalizedString.h"
 #include "Installer/Sources/LogRedirection.h"
 #include "Platform/Workspace.h"
@@ -14,7 +13,6 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
-#include "ZTStuff/ZTClasses/ZTUtilities.h"
 
 #include <QApplication>
 #include <QDir>
@@ -47,80 +45,56 @@ void InstallerWinController::awakeFromNib() {
     m_ui.tabView->tabBar()->hide();
     m_ui.tabView->setDocumentMode(true);
     selectTab(MainPage);
-    m_arguments = InstallerArguments::parse(m_environment.argumentVector);
+    extractArguments(m_environment.argumentVector);
 
-    if (!InstallerArguments::completeSourcePath(m_arguments,
-                                                m_platform.bundles.mainBundle().path())) {
-        playDoneSound();
-        showSetupError(u"missing source path"_s);
-        return;
-    }
-    if (!InstallerArguments::completeProductName(m_arguments)) {
-        showSetupError(u"missing program name"_s);
+    if (const auto missing = findProduct()) {
+        if (!arguments().contains(ZTInstallerKeySourcePath))
+            playDoneSound();
+        showSetupError(*missing);
         return;
     }
     m_window.setWindowTitle(ZTFormat(m_window.windowTitle(), productName()));
-    const auto product =
-        m_platform.bundles.bundleAtPath(argument(ZTInstallerKeySourcePath).value_or(QString()));
-    fillIcon(product);
-    const auto version = InstallerArguments::version(m_arguments, product);
-    const auto minimum = InstallerArguments::minimumSystemVersion(m_arguments, product);
-    const bool supported =
-        !minimum || ZTUtilities::compareVersion(ZTUtilities::systemVersionString(), *minimum) !=
-                        Ordering::Ascending;
-    if (!completeArguments(product)) {
-        showSetupError(u"missing product signature"_s);
+    fillIcon();
+    const auto missing = completeArguments();
+    m_ui.pathField->setText(localizedPath(destinationPath()));
+    if (missing) {
+        showSetupError(*missing);
         return;
     }
-    fillTexts(version);
+    fillTexts();
     fillReadMe();
     m_ui.checkmarkField->hide();
     showWindow();
-    if (!supported)
-        showSystemVersionAlert(version, *minimum);
+    if (!systemIsSupported())
+        showSystemVersionAlert();
 }
 
-bool InstallerWinController::completeArguments(const std::optional<zt::Bundle> &product) {
-    InstallerArguments::completeDestination(
-        m_arguments, {.preferredDestination =
-                          [this](const QString &name) { return findPreferredDestinationFor(name); },
-                      .applicationsDirectory = [this] { return applicationsDirectory(); }});
-    m_ui.pathField->setText(
-        localizedPath(argument(ZTInstallerKeyDestinationPath).value_or(QString())));
-    InstallerArguments::completeDocumentation(m_arguments);
-    if (!InstallerArguments::completeProductCodes(m_arguments, product))
-        return false;
-    InstallerArguments::completeQuitCodes(m_arguments);
-    return true;
-}
-
-void InstallerWinController::fillIcon(const std::optional<zt::Bundle> &product) {
+void InstallerWinController::fillIcon() {
     std::optional<QIcon> icon;
     if (const auto path = argument(ZTInstallerKeyIconPath))
         icon = loadIcon(*path);
-    const auto name = product ? product->stringForKey(u"CFBundleIconFile"_s) : std::nullopt;
+    const auto name = product() ? product()->stringForKey(u"CFBundleIconFile"_s) : std::nullopt;
     if (!icon && name) {
-        auto path = product->pathForResource(*name, u"icns"_s);
+        auto path = product()->pathForResource(*name, u"icns"_s);
         if (!path)
-            path = product->pathForResource(*name);
+            path = product()->pathForResource(*name);
         if (path)
             icon = loadIcon(*path);
     }
-    if (!icon) {
-        icon = m_platform.workspace.iconForFile(
-            argument(ZTInstallerKeySourcePath).value_or(QString()));
-    }
+    if (!icon)
+        icon = platform().workspace.iconForFile(sourcePath());
     if (icon->isNull())
         return;
     m_ui.iconField->setIcon(*icon);
     QApplication::setWindowIcon(*icon);
 }
 
-void InstallerWinController::fillTexts(const std::optional<QString> &version) {
-    m_ui.nameField->setText(version ? productName() + u' ' + *version : productName());
+void InstallerWinController::fillTexts() {
+    const auto number = version();
+    m_ui.nameField->setText(number ? productName() + u' ' + *number : productName());
     m_ui.introField->setText(ZTFormat(m_ui.introField->text(), productName()));
     QString explanation = ZTFormat(m_ui.explanationField->text(), productName());
-    const bool documented = m_arguments.contains(ZTInstallerKeyDocumentationPath);
+    const bool documented = arguments().contains(ZTInstallerKeyDocumentationPath);
     if (documented) {
         explanation = ZTFormat(
             "%@ %@",
@@ -178,8 +152,7 @@ void InstallerWinController::showWindow() {
     });
 }
 
-void InstallerWinController::showSystemVersionAlert(const std::optional<QString> &version,
-                                                    const QString &minimumSystemVersion) {
+void InstallerWinController::showSystemVersionAlert() {
     auto *alert = new QMessageBox(&m_window);
     alert->setAttribute(Qt::WA_DeleteOnClose);
     alert->setWindowModality(Qt::WindowModal);
@@ -188,7 +161,7 @@ void InstallerWinController::showSystemVersionAlert(const std::optional<QString>
     alert->setText(
         ZTFormat(localizedString("%1$@ %2$@ cannot be installed on this computer because "
                                  "it requires Mac OS X %3$@ or newer."),
-                 productName(), version, minimumSystemVersion));
+                 productName(), version(), minimumSystemVersion()));
     alert->setInformativeText(
         ZTFormat(localizedString("To check if an older version of %@ is available for your "
                                  "computer, please visit our software archive."),
@@ -209,6 +182,6 @@ void InstallerWinController::showSystemVersionAlert(const std::optional<QString>
 
 void InstallerWinController::systemVersionAlertDidEnd(int returnCode) {
     if (returnCode == secondButtonReturnCode)
-        m_platform.workspace.openUrl(softwareArchive);
+        platform().workspace.openUrl(softwareArchive);
     QApplication::quit();
 }

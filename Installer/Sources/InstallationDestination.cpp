@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "Installer/Sources/InstallerWinController.h"
+#include "Installer/Sources/Installation.h"
 
 #include "Platform/LoginItems.h"
 #include "Platform/Workspace.h"
@@ -29,8 +29,7 @@ QString abbreviatingWithTilde(const QString &path) {
 
 } // namespace
 
-std::optional<QString>
-InstallerWinController::findPreferredDestinationFor(const QString &productName) const {
+std::optional<QString> Installation::findPreferredDestinationFor(const QString &productName) const {
     auto loginItem = autoLaunchPathFor(productName);
     ZTLog("autolaunch = %@", loginItem);
     if (loginItem && !isInUnsupportedFolder(loginItem))
@@ -38,7 +37,7 @@ InstallerWinController::findPreferredDestinationFor(const QString &productName) 
     return pathToProcessToReplace();
 }
 
-std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &productName) const {
+std::optional<QString> Installation::autoLaunchPathFor(const QString &productName) const {
     const auto items = m_platform.loginItems.resolvedPaths();
     if (!items)
         return std::nullopt;
@@ -49,7 +48,7 @@ std::optional<QString> InstallerWinController::autoLaunchPathFor(const QString &
     return std::nullopt;
 }
 
-std::optional<QString> InstallerWinController::pathToProcessToReplace() const {
+std::optional<QString> Installation::pathToProcessToReplace() const {
     const QStringList codes = m_arguments.value(ZTInstallerKeyProductCode).toStringList();
     if (codes.isEmpty())
         return std::nullopt;
@@ -73,7 +72,7 @@ std::optional<QString> InstallerWinController::pathToProcessToReplace() const {
     return path;
 }
 
-bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> &path) const {
+bool Installation::isInUnsupportedFolder(const std::optional<QString> &path) const {
     if (!path)
         return false;
     const bool developerBuild = path->contains(u"/build") && path->contains(u"/wex/");
@@ -82,7 +81,7 @@ bool InstallerWinController::isInUnsupportedFolder(const std::optional<QString> 
     return developerBuild || distributionDisk || trash || path->startsWith(u"/private/var/");
 }
 
-QString InstallerWinController::applicationsDirectory() const {
+QString Installation::applicationsDirectory() const {
     const QStringList local =
         m_platform.workspace.applicationsFolders(zt::Workspace::Domain::Local);
     QString system = local.isEmpty() ? QString() : expandingTilde(local.last());
@@ -96,11 +95,11 @@ QString InstallerWinController::applicationsDirectory() const {
     return user && canWriteToFileOrDirectory(*user) ? *user : system;
 }
 
-bool InstallerWinController::canWriteToFileOrDirectory(const QString &path) const {
+bool Installation::canWriteToFileOrDirectory(const QString &path) const {
     return QFileInfo(path).isWritable();
 }
 
-bool InstallerWinController::canWriteToPath(const QString &path) const {
+bool Installation::canWriteToPath(const QString &path) const {
     if (QFileInfo::exists(path) && !canWriteToFileOrDirectory(path)) {
         ZTLog("Cannot write to item %@", path);
         return false;
@@ -114,11 +113,11 @@ bool InstallerWinController::canWriteToPath(const QString &path) const {
     return false;
 }
 
-bool InstallerWinController::canWriteToFile(const QString &path) const {
+bool Installation::canWriteToFile(const QString &path) const {
     return QFile(path).open(QIODevice::ReadWrite | QIODevice::ExistingOnly);
 }
 
-bool InstallerWinController::canWriteToDirectory(const QString &folder) const {
+bool Installation::canWriteToDirectory(const QString &folder) const {
     const auto probePath = [&folder](unsigned number) {
         return appendingPathComponent(folder, ZTFormat("temp-%X", number));
     };
@@ -135,11 +134,11 @@ bool InstallerWinController::canWriteToDirectory(const QString &folder) const {
     return true;
 }
 
-QString InstallerWinController::localizedPath(const QString &path) const {
+QString Installation::localizedPath(const QString &path) const {
     return recursiveLocalizedPath(abbreviatingWithTilde(path));
 }
 
-QString InstallerWinController::recursiveLocalizedPath(const QString &path) const {
+QString Installation::recursiveLocalizedPath(const QString &path) const {
     if (path.size() < 3)
         return path;
     const QString name = m_platform.workspace.displayName(expandingTilde(path));

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "Installer/Sources/InstallerWinController.h"
+#include "Installer/Sources/Installation.h"
 
 #include "Installer/Sources/AuthorizedExecute.h"
+#include "Installer/Sources/LocalizedString.h"
 #include "Installer/train/InstallFunction.h"
 #include "Platform/Clock.h"
 #include "Platform/Log.h"
@@ -43,9 +44,8 @@ QString withoutLinksOnTheWay(const QString &path) {
 
 } // namespace
 
-std::optional<QString>
-InstallerWinController::installMyselfInDestination(const std::stop_token &stop) {
-    const QString destination = argument(ZTInstallerKeyDestinationPath).value_or(QString());
+std::optional<QString> Installation::installMyselfInDestination(const std::stop_token &stop) {
+    const QString destination = destinationPath();
     const bool isWritable = canWriteToPath(destination);
     if (m_forcesAuthorization)
         ZTLog("enforcing authorization");
@@ -54,8 +54,8 @@ InstallerWinController::installMyselfInDestination(const std::stop_token &stop) 
             return failure;
     } else {
         bool canceled = false;
-        if (!authorizedInstall(argument(ZTInstallerKeySourcePath).value_or(QString()), destination,
-                               argument(ZTInstallerKeyWrapperPath), &canceled, stop)) {
+        if (!authorizedInstall(sourcePath(), destination, argument(ZTInstallerKeyWrapperPath),
+                               &canceled, stop)) {
             if (canceled) {
                 ZTLog("User canceled authorization");
                 return QString();
@@ -68,12 +68,12 @@ InstallerWinController::installMyselfInDestination(const std::stop_token &stop) 
     return std::nullopt;
 }
 
-zt::Proof InstallerWinController::proofFor(const QString &source) const {
+zt::Proof Installation::proofFor(const QString &source) const {
     return m_platform.workspace.volumeOf(withoutLinks(source)) ? zt::Proof::Compared
                                                                : zt::Proof::None;
 }
 
-std::optional<QString> InstallerWinController::copyDirectly(const std::stop_token &stop) {
+std::optional<QString> Installation::copyDirectly(const std::stop_token &stop) {
     const auto bytes = [this](const QString &key) {
         return QFile::encodeName(argument(key).value_or(QString())).toStdString();
     };
@@ -82,7 +82,7 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
                        .wrapper = std::nullopt};
     if (m_arguments.contains(ZTInstallerKeyWrapperPath))
         paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
-    const QFileInfo earlierCopy(argument(ZTInstallerKeyDestinationPath).value_or(QString()));
+    const QFileInfo earlierCopy(destinationPath());
     m_hadEarlierCopy = earlierCopy.exists() || earlierCopy.isSymLink();
     const std::stop_callback passOn(stop, [this] { m_copyStop.request_stop(); });
     const InstallResult result = InstallApplication(
@@ -97,7 +97,7 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
                     [this](const zt::CopyProgress &progress) {
                         onMainThread([this, progress] { showCopyProgress(progress); });
                     },
-                .proof = proofFor(argument(ZTInstallerKeySourcePath).value_or(QString()))});
+                .proof = proofFor(sourcePath())});
     onMainThread([this] { hideCopyProgress(); });
     switch (result) {
     case InstallResult::Success:
@@ -112,9 +112,14 @@ std::optional<QString> InstallerWinController::copyDirectly(const std::stop_toke
     return u"Installation failed."_s;
 }
 
-bool InstallerWinController::authorizedInstall(const QString &source, const QString &to,
-                                               const std::optional<QString> &wrap, bool *canceled,
-                                               const std::stop_token &stop) {
+void Installation::stopCopying() {
+    ZTLog("User stopped copying");
+    m_copyStop.request_stop();
+}
+
+bool Installation::authorizedInstall(const QString &source, const QString &to,
+                                     const std::optional<QString> &wrap, bool *canceled,
+                                     const std::stop_token &stop) {
     if (canceled)
         *canceled = false;
     if (to.trimmed().isEmpty() || source.trimmed().isEmpty())
@@ -142,7 +147,7 @@ bool InstallerWinController::authorizedInstall(const QString &source, const QStr
 }
 
 // Whether the desktop has an icon for the item. Icons belong to the main thread.
-bool InstallerWinController::hasIcon(const QString &path, const std::stop_token &stop) {
+bool Installation::hasIcon(const QString &path, const std::stop_token &stop) {
     const auto answer = std::make_shared<std::promise<bool>>();
     std::future<bool> found = answer->get_future();
     onMainThread([this, path, answer] {
@@ -156,16 +161,20 @@ bool InstallerWinController::hasIcon(const QString &path, const std::stop_token 
     return found.get();
 }
 
+void Installation::registerProduct() const {
+    ZTLog("registered app: %d", m_platform.workspace.registerApplication(destinationPath()));
+}
+
 // Makes the installed product known and launches it. Whatever fails here, the product is in place.
-void InstallerWinController::handOver(const std::stop_token &stop) {
+void Installation::handOver(const std::stop_token &stop) {
     constexpr int launchRetries = 10;
-    const QString destination = argument(ZTInstallerKeyDestinationPath).value_or(QString());
+    const QString destination = destinationPath();
     zt::Workspace &workspace = m_platform.workspace;
     ZTLog("successfully copied");
     workspace.noteFileSystemChanged(destination);
     ZTLog("launching %@", destination);
     m_platform.clock.sleepFor(500ms);
-    ZTLog("registered app: %d", workspace.registerApplication(destination));
+    registerProduct();
     m_platform.clock.sleepFor(100ms);
     if (!stop.stop_requested() && !hasIcon(destination, stop)) {
         ZTLog("did not get icon");
@@ -183,4 +192,25 @@ void InstallerWinController::handOver(const std::stop_token &stop) {
     // The message that all went well is to be seen over the product's windows.
     if (const auto self = ZTProcess::currentProcess())
         self->setFrontProcessFrontWindowOnly();
+}
+
+QString Installation::failureMessage(const QString &messageKey) const {
+    QString message = ZTFormat(localizedString(messageKey.toUtf8().constData()), productName());
+    if (m_copyStop.stop_requested()) {
+        // Whoever stops has changed their mind, and has to know what became of what they had.
+        if (m_hadEarlierCopy && !QFileInfo::exists(destinationPath())) {
+            message += ZTFormat(
+                "\r%@", ZTFormat(localizedString("The earlier copy of %1$@ is in the Trash."),
+                                 productName()));
+        }
+        return message;
+    }
+    // A wrapped product cannot be installed by copying one item.
+    if (!m_arguments.contains(ZTInstallerKeyWrapperPath)) {
+        message += ZTFormat("\r%@", ZTFormat(localizedString("Try installing %1$@ manually by "
+                                                             "copying it to the Applications "
+                                                             "folder."),
+                                             productName()));
+    }
+    return message;
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "Installer/Sources/InstallerWinController.h"
+#include "Installer/Sources/Installation.h"
 
 #include "Platform/Clock.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
@@ -12,13 +12,13 @@
 
 using namespace std::chrono_literals;
 
-bool InstallerWinController::signatureIsInArray(FourCharCode signature, const QStringList &codes) {
+bool Installation::signatureIsInArray(FourCharCode signature, const QStringList &codes) {
     return std::any_of(codes.begin(), codes.end(), [signature](const QString &code) {
         return UTGetOSTypeFromString(code) == signature;
     });
 }
 
-void InstallerWinController::quitProcesses() const {
+void Installation::quitProcesses() const {
     const QStringList codes = m_arguments.value(ZTInstallerKeyQuitCode).toStringList();
     const auto self = ZTProcess::currentProcess();
     for (const auto &process : ZTProcess::allProcesses()) {
@@ -31,7 +31,7 @@ void InstallerWinController::quitProcesses() const {
     }
 }
 
-std::optional<QString> InstallerWinController::processToQuitStillRunning() const {
+std::optional<QString> Installation::processToQuitStillRunning() const {
     const QStringList codes = m_arguments.value(ZTInstallerKeyQuitCode).toStringList();
     const auto self = ZTProcess::currentProcess();
     for (const auto &process : ZTProcess::allProcesses()) {
@@ -42,4 +42,20 @@ std::optional<QString> InstallerWinController::processToQuitStillRunning() const
         return name;
     }
     return std::nullopt;
+}
+
+std::optional<QString> Installation::quitRunningCopies(const std::stop_token &stop) const {
+    constexpr int retries = 3;
+    quitProcesses();
+    const auto name = processToQuitStillRunning();
+    if (!name)
+        return std::nullopt;
+    ZTLog("%@ did not quit; will retry", *name);
+    for (int retry = 0; retry < retries && !stop.stop_requested(); ++retry) {
+        m_platform.clock.sleepFor(1s);
+        quitProcesses();
+        if (!processToQuitStillRunning())
+            break;
+    }
+    return processToQuitStillRunning();
 }
