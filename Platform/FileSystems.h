@@ -9,6 +9,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 namespace zt {
 
 // Thread: any, for all operations.
@@ -20,6 +22,10 @@ public:
     // "tmpfs". An alias counts as what it leads to. Fails when there is no such item, or nothing is
     // known of its volume.
     virtual Result<QString> typeNameFor(const QString &path) const = 0;
+
+    // How many bytes this user can still write to the volume that holds the item. An alias counts
+    // as what it leads to. Fails when there is no such item.
+    virtual Result<std::uint64_t> availableBytesFor(const QString &path) const = 0;
 
 protected:
     FileSystems() = default;

@@ -34,6 +34,16 @@ struct ProcessInformation {
     std::uint32_t signature = 0; // four-character creator code; 0x3F3F3F3F ("????") when none
 };
 
+// An application that another user of this computer runs, as far as this user may know of it.
+struct ForeignApplication {
+    QString name;                // never empty
+    std::uint32_t signature = 0; // 0x3F3F3F3F ("????") when none
+    QString location;            // the folder of its bundle
+    QString userName;            // never empty
+
+    bool operator==(const ForeignApplication &) const = default;
+};
+
 class ProcessManager {
 public:
     enum class Event { Launched, Terminated, FrontSwitched };
@@ -42,6 +52,11 @@ public:
 
     // The running applications by start time. Empty when the list cannot be read. Thread: any.
     virtual QList<ProcessSerialNumber> runningApplications() const = 0;
+
+    // What other users run from bundles that this user can read, each run for itself, in no order.
+    // It rests on what these programs say of themselves, so nothing but advice can be built on it.
+    // Empty when the system hides other users' processes. Thread: any.
+    virtual QList<ForeignApplication> applicationsOfOtherUsers() const = 0;
 
     // This process; no value when it cannot be identified. Thread: any.
     virtual std::optional<ProcessSerialNumber> currentProcess() const = 0;

@@ -9,6 +9,7 @@
 
 #include <QFile>
 
+#include <sys/statvfs.h>
 #include <sys/vfs.h> // statfs
 
 namespace zt {
@@ -48,6 +49,14 @@ Result<QString> MountedFileSystems::typeNameFor(const QString &path) const {
     if (!type)
         return Error{.operation = "find the mount of", .object = object, .cause = "not listed"};
     return QString::fromStdString(*type);
+}
+
+Result<std::uint64_t> MountedFileSystems::availableBytesFor(const QString &path) const {
+    const QByteArray bytes = QFile::encodeName(path);
+    struct statvfs volume = {};
+    if (retryInterrupted([&] { return ::statvfs(bytes.constData(), &volume); }) != 0)
+        return Error::fromErrno("statvfs", bytes.toStdString());
+    return std::uint64_t{volume.f_bavail} * volume.f_frsize;
 }
 
 } // namespace zt

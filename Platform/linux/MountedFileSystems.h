@@ -17,6 +17,7 @@ public:
     explicit MountedFileSystems(std::string procRoot = "/proc");
 
     Result<QString> typeNameFor(const QString &path) const override;
+    Result<std::uint64_t> availableBytesFor(const QString &path) const override;
 
 private:
     std::string m_procRoot;

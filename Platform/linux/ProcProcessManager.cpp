@@ -4,6 +4,7 @@
 #include "Platform/linux/ProcProcessManager.h"
 
 #include "Platform/MacRoman.h"
+#include "Platform/linux/ForeignApplications.h"
 #include "Platform/linux/LoginItemLaunch.h"
 #include "Platform/linux/ProcSerialNumber.h"
 #include "Platform/linux/ProcessDescriptor.h"
@@ -55,6 +56,7 @@ QString signatureText(std::uint32_t signature) {
 ProcProcessManager::ProcProcessManager(const Bundles &bundles, WindowSystem &windowSystem,
                                        const std::string &procRoot)
     : m_procFs(procRoot)
+    , m_bundles(bundles)
     , m_windowSystem(windowSystem)
     , m_heldProcesses(m_procFs, HeldProcesses::reasonableCount())
     , m_programs(m_procFs, bundles) {}
@@ -94,6 +96,10 @@ QList<ProcessSerialNumber> ProcProcessManager::runningApplications() const {
     for (const auto &entry : found)
         applications << std::get<2>(entry);
     return applications;
+}
+
+QList<ForeignApplication> ProcProcessManager::applicationsOfOtherUsers() const {
+    return zt::applicationsOfOtherUsers(m_procFs, m_bundles, ::geteuid());
 }
 
 std::optional<ProcessSerialNumber> ProcProcessManager::currentProcess() const {

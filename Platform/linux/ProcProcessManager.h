@@ -30,6 +30,7 @@ public:
     ProcProcessManager &operator=(const ProcProcessManager &) = delete;
 
     QList<ProcessSerialNumber> runningApplications() const override;
+    QList<ForeignApplication> applicationsOfOtherUsers() const override;
     std::optional<ProcessSerialNumber> currentProcess() const override;
     std::optional<ProcessSerialNumber> frontProcess() const override;
     std::optional<ProcessSerialNumber> processWithPid(std::int32_t pid) const override;
@@ -49,6 +50,7 @@ private:
     ProcPrograms::Pointer programOf(ProcessSerialNumber process) const;
 
     ProcFs m_procFs;
+    const Bundles &m_bundles;
     WindowSystem &m_windowSystem;
     HeldProcesses m_heldProcesses;
     mutable ProcPrograms m_programs; // fills itself when it is asked; guards itself

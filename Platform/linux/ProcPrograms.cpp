@@ -49,14 +49,6 @@ std::uint32_t signatureOfBundle(const Bundle &bundle) {
     return text ? fourCharacterCode(*text).value_or(noSignature) : noSignature;
 }
 
-Program programOf(const Bundle &bundle) {
-    return {.name = cutToRecord(nameOfBundle(bundle)),
-            .signature = signatureOfBundle(bundle),
-            .location = bundle.path(),
-            .isInBundle = true,
-            .information = bundle.infoDictionary()};
-}
-
 // The kernel cuts the name that it keeps; the first argument may have it whole.
 QString nameWithoutLink(const ProcFs &procFs, const ProcStat &stat) {
     constexpr std::size_t keptBytes = 15;
@@ -105,6 +97,14 @@ ProgramPath programPathOf(const ProcFs &procFs, std::int32_t pid, const std::str
 }
 
 } // namespace
+
+Program programOfBundle(const Bundle &bundle) {
+    return {.name = cutToRecord(nameOfBundle(bundle)),
+            .signature = signatureOfBundle(bundle),
+            .location = bundle.path(),
+            .isInBundle = true,
+            .information = bundle.infoDictionary()};
+}
 
 std::optional<ProcPrograms::Observation>
 ProcPrograms::observe(const ProcFolderEntry &folder, const std::optional<std::string> &link,
@@ -233,7 +233,7 @@ ProcPrograms::Pointer ProcPrograms::identifyBundled(const std::string &path, boo
         return memory->at(key);
     Pointer program;
     if (const std::optional<Bundle> bundle = m_bundles.bundleEnclosing(decoded(path))) {
-        program = std::make_shared<const Program>(programOf(*bundle));
+        program = std::make_shared<const Program>(programOfBundle(*bundle));
     } else if (isDeleted) {
         // The bundle went together with its program. Its name is all that is left of it.
         const QString location = decoded(folder);

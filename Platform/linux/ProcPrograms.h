@@ -29,6 +29,9 @@ struct Program {
     QVariantMap information; // of the bundle; empty when there is none or it could not be read
 };
 
+// What a program in the bundle is.
+Program programOfBundle(const Bundle &bundle);
+
 // Finds out what the processes run, and remembers it for each process as long as it runs that
 // program. Thread: any.
 class ProcPrograms {

@@ -19,5 +19,13 @@ public:
         return *found;
     }
 
-    QMap<QString, QString> typeNames; // by path
+    zt::Result<std::uint64_t> availableBytesFor(const QString &path) const override {
+        const auto found = availableBytes.constFind(path);
+        if (found == availableBytes.cend())
+            return zt::Error::fromErrno("statvfs", path.toStdString(), ENOENT);
+        return *found;
+    }
+
+    QMap<QString, QString> typeNames;            // by path
+    QMap<QString, std::uint64_t> availableBytes; // by path
 };

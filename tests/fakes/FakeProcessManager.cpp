@@ -108,6 +108,17 @@ QList<ProcessSerialNumber> FakeProcessManager::runningApplications() const {
     return applications;
 }
 
+void FakeProcessManager::setApplicationsOfOtherUsers(
+    const QList<zt::ForeignApplication> &applications) {
+    const std::scoped_lock lock(m_mutex);
+    m_ofOtherUsers = applications;
+}
+
+QList<zt::ForeignApplication> FakeProcessManager::applicationsOfOtherUsers() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_ofOtherUsers;
+}
+
 std::optional<ProcessSerialNumber> FakeProcessManager::currentProcess() const {
     const std::scoped_lock lock(m_mutex);
     const Running *running = m_current ? find(*m_current) : nullptr;

@@ -47,7 +47,11 @@ public:
     // How often the listener was set.
     int listenerChanges() const;
 
+    // What other users run.
+    void setApplicationsOfOtherUsers(const QList<zt::ForeignApplication> &applications);
+
     QList<zt::ProcessSerialNumber> runningApplications() const override;
+    QList<zt::ForeignApplication> applicationsOfOtherUsers() const override;
     std::optional<zt::ProcessSerialNumber> currentProcess() const override;
     std::optional<zt::ProcessSerialNumber> frontProcess() const override;
     std::optional<zt::ProcessSerialNumber> processWithPid(std::int32_t pid) const override;
@@ -76,6 +80,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::vector<Running> m_running; // by start
+    QList<zt::ForeignApplication> m_ofOtherUsers;
     std::uint32_t m_starts = 0;
     std::optional<std::int32_t> m_current;
     std::optional<std::int32_t> m_front;

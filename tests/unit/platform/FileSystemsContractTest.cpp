@@ -22,13 +22,18 @@ struct LinuxCase {
     zt::MountedFileSystems fileSystems;
     QString path = u"/proc/self/status"_s;
     QString typeName = u"proc"_s;
+    std::uint64_t availableBytes = 0; // nothing can be written there
 };
 
 struct FakeCase {
-    FakeCase() { fileSystems.typeNames.insert(path, typeName); }
+    FakeCase() {
+        fileSystems.typeNames.insert(path, typeName);
+        fileSystems.availableBytes.insert(path, availableBytes);
+    }
 
     QString path = u"/a/file"_s;
     QString typeName = u"apfs"_s;
+    std::uint64_t availableBytes = 4096;
     FakeFileSystems fileSystems;
 };
 
@@ -54,7 +59,26 @@ TYPED_TEST(FileSystemsContractTest, aMissingItemIsAFailure) {
         const auto type = this->implementation.fileSystems.typeNameFor(path);
         ASSERT_FALSE(type) << path.toStdString();
         EXPECT_EQ(type.error().code, ENOENT);
+        const auto space = this->implementation.fileSystems.availableBytesFor(path);
+        ASSERT_FALSE(space) << path.toStdString();
+        EXPECT_EQ(space.error().code, ENOENT);
     }
+}
+
+TYPED_TEST(FileSystemsContractTest, theSpaceOfAVolumeIsKnown) {
+    const auto space =
+        this->implementation.fileSystems.availableBytesFor(this->implementation.path);
+    ASSERT_TRUE(space);
+    EXPECT_EQ(*space, this->implementation.availableBytes);
+}
+
+TEST(MountedFileSystemsTest, theSpaceIsWhatThisUserCanWrite) {
+    const zt::MountedFileSystems fileSystems;
+    // Others may write meanwhile; the volume as a whole stays as large as it is.
+    const auto space = fileSystems.availableBytesFor(u"/"_s);
+    ASSERT_TRUE(space);
+    EXPECT_GT(*space, 0U);
+    EXPECT_LE(*space, std::uint64_t(QStorageInfo(u"/"_s).bytesTotal()));
 }
 
 TEST(MountedFileSystemsTest, anAliasCountsAsWhatItLeadsTo) {

@@ -167,3 +167,9 @@ TYPED_TEST(ProcessManagerContractTest, noListenerHearsNothing) {
     runLoopOnce();
     EXPECT_EQ(events, 0);
 }
+
+TYPED_TEST(ProcessManagerContractTest, whatThisUserRunsIsNoOtherUsers) {
+    this->start();
+    for (const zt::ForeignApplication &application : this->manager().applicationsOfOtherUsers())
+        EXPECT_NE(application.name, sampleName);
+}
