@@ -33,6 +33,9 @@ public:
     // The scheme that the user asked for; no value when the desktop does not tell.
     virtual std::optional<Scheme> preferredScheme() const = 0;
 
+    // Whether the user asked for more contrast than usual; false when the desktop does not tell.
+    virtual bool prefersMoreContrast() const = 0;
+
     // The tint that the user chose; blue when the desktop does not tell.
     virtual ControlTint controlTint() const = 0;
 

@@ -15,6 +15,7 @@ class Bundles;
 class ChildProcesses;
 class Clock;
 class FileSystems;
+class Interruptions;
 class KeyboardLayout;
 class Log;
 class LoginItems;
@@ -54,6 +55,7 @@ struct Platform {
     Pasteboard &pasteboard;
     UserInput &userInput;
     FileSystems &fileSystems;
+    Interruptions &interruptions;
 };
 
 // The platform that class-level operations use. The program ends at once when none is installed.

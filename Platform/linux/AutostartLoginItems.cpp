@@ -20,13 +20,6 @@ namespace zt {
 
 namespace {
 
-struct EntryDeleter {
-    const GioLibrary *gio;
-    void operator()(GDesktopAppInfo *entry) const { gio->g_object_unref(entry); }
-};
-
-using Entry = std::unique_ptr<GDesktopAppInfo, EntryDeleter>;
-
 bool isSwitchedOff(const GioLibrary &gio, GDesktopAppInfo *entry) {
     if (gio.g_desktop_app_info_get_is_hidden(entry) ||
         !gio.g_desktop_app_info_get_show_in(entry, nullptr))
@@ -90,8 +83,8 @@ std::optional<std::vector<std::optional<QString>>> AutostartLoginItems::resolved
         const QByteArray file = QFile::encodeName(folder.filePath(name));
         if (isMarkedHidden(file))
             continue;
-        const Entry entry(gio->g_desktop_app_info_new_from_filename(file.constData()),
-                          EntryDeleter{gio});
+        const GioPointer<GDesktopAppInfo> entry(
+            gio->g_desktop_app_info_new_from_filename(file.constData()));
         if (entry && isSwitchedOff(*gio, entry.get()))
             continue;
         std::optional<QString> path = entry ? programPath(*gio, entry.get()) : std::nullopt;

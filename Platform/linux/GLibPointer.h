@@ -16,6 +16,7 @@ struct GLibDeleter {
     void operator()(gchar **list) const { g_strfreev(list); }
     void operator()(GError *error) const { g_error_free(error); }
     void operator()(GKeyFile *file) const { g_key_file_free(file); }
+    void operator()(GVariant *value) const { g_variant_unref(value); }
 };
 
 template <typename T>

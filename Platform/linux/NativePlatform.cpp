@@ -6,6 +6,7 @@
 #include "Platform/linux/AtSpiAccessibility.h"
 #include "Platform/linux/AutostartLoginItems.h"
 #include "Platform/linux/BusApplicationEvents.h"
+#include "Platform/linux/BusInterruptions.h"
 #include "Platform/linux/DesktopWorkspace.h"
 #include "Platform/linux/EventLoopClock.h"
 #include "Platform/linux/FreedesktopTrash.h"
@@ -89,6 +90,7 @@ struct NativePlatform::Services {
     X11Pasteboard pasteboard;
     X11UserInput userInput;
     MountedFileSystems fileSystems;
+    BusInterruptions interruptions{log};
     PulseSounds sounds{soundFolders()}; // goes first, with tasks that use the others
     Platform platform{.log = log,
                       .clock = clock,
@@ -111,7 +113,8 @@ struct NativePlatform::Services {
                       .menuBarEvents = menuBarEvents,
                       .pasteboard = pasteboard,
                       .userInput = userInput,
-                      .fileSystems = fileSystems};
+                      .fileSystems = fileSystems,
+                      .interruptions = interruptions};
 };
 
 NativePlatform::NativePlatform(const QStringList &arguments)

@@ -28,6 +28,7 @@ const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
 const QString appearanceGroup = u"org.freedesktop.appearance"_s;
 const QString colorSchemeKey = u"color-scheme"_s;
 const QString accentColorKey = u"accent-color"_s;
+const QString contrastKey = u"contrast"_s;
 
 constexpr int firstAnswerTimeout = 100; // milliseconds
 constexpr int laterAnswerTimeout = 25'000;
@@ -71,6 +72,11 @@ std::optional<AccentColor> accentColorOf(const QVariant &value) {
     return isColor ? std::optional(color) : std::nullopt;
 }
 
+// The values of org.freedesktop.appearance contrast: 1 more, others no preference.
+bool isMoreContrast(const QVariant &value) {
+    return unwrapped(value).toUInt() == 1;
+}
+
 // Whether the portal has only not answered yet, which is another thing than having no answer.
 bool isLate(const QDBusError &error) {
     return error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout;
@@ -85,6 +91,7 @@ PortalAppearance::PortalAppearance(QString configurationFolder)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         m_isWithoutPortal = true;
+        m_prefersMoreContrast = moreContrastInSettingsFiles(m_configurationFolder);
         return;
     }
     bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
@@ -105,6 +112,30 @@ PortalAppearance::PortalAppearance(QString configurationFolder)
             takeAnswer(*second);
         });
     });
+    askForContrast();
+}
+
+bool PortalAppearance::prefersMoreContrast() const {
+    return m_prefersMoreContrast;
+}
+
+void PortalAppearance::askForContrast() {
+    auto *watcher = new QDBusPendingCallWatcher(askPortal(contrastKey, laterAnswerTimeout), this);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        if (!reply.isError())
+            setContrast(isMoreContrast(QVariant::fromValue(reply.value())));
+        else if (!isLate(reply.error()))
+            setContrast(moreContrastInSettingsFiles(m_configurationFolder));
+    });
+}
+
+void PortalAppearance::setContrast(bool isMore) {
+    if (isMore == m_prefersMoreContrast)
+        return;
+    m_prefersMoreContrast = isMore;
+    tellListeners();
 }
 
 std::optional<Appearance::Scheme> PortalAppearance::preferredScheme() const {
@@ -151,6 +182,8 @@ void PortalAppearance::settingChanged(const QString &group, const QString &key,
         return;
     if (key == colorSchemeKey) {
         setScheme(schemeOf(value.variant()));
+    } else if (key == contrastKey) {
+        setContrast(isMoreContrast(value.variant()));
     } else if (key == accentColorKey) {
         const std::optional<AccentColor> color = accentColorOf(value.variant());
         const bool isNew = !m_accentColor || *m_accentColor != color;

@@ -29,6 +29,9 @@ public:
     // listener. Settings files are read anew each time.
     std::optional<Scheme> preferredScheme() const override;
 
+    // Told to the listener once the portal has answered.
+    bool prefersMoreContrast() const override;
+
     // Graphite when the accent colour is a grey.
     ControlTint controlTint() const override;
     // Asks the portal the first time, for a tenth of a second at most.
@@ -39,10 +42,13 @@ private:
     Q_SLOT void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
     QDBusPendingCall askPortal(const QString &key, int timeoutMilliseconds) const;
     void takeAnswer(const QDBusPendingCall &answer);
+    void askForContrast();
+    void setContrast(bool isMore);
     void setScheme(std::optional<Scheme> scheme);
     void tellListeners() const;
 
     std::optional<Scheme> m_scheme;
+    bool m_prefersMoreContrast = false;
     // Once it was asked for.
     mutable std::optional<std::optional<AccentColor>> m_accentColor;
     QString m_configurationFolder;

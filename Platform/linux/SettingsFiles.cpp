@@ -56,9 +56,10 @@ std::optional<Appearance::Scheme> schemeOfKde(const QString &file) {
 std::optional<Appearance::Scheme> schemeOfGtk(const QString &file) {
     const QVariant wish = settingIn(file, u"Settings/gtk-application-prefer-dark-theme"_s);
     const QString theme = settingIn(file, u"Settings/gtk-theme-name"_s).toString();
-    // "Adwaita-dark", or a variant of a theme as in "Adwaita:dark".
+    // "Adwaita-dark", or a variant of a theme as in "Adwaita:dark"; "HighContrastInverse".
     if (wish.toBool() || theme.endsWith(u"-dark"_s, Qt::CaseInsensitive) ||
-        theme.endsWith(u":dark"_s, Qt::CaseInsensitive))
+        theme.endsWith(u":dark"_s, Qt::CaseInsensitive) ||
+        theme.endsWith(u"Inverse"_s, Qt::CaseInsensitive))
         return Appearance::Scheme::Dark;
     if (wish.isValid() || !theme.isEmpty())
         return Appearance::Scheme::Light;
@@ -75,6 +76,15 @@ std::optional<Appearance::Scheme> schemeInSettingsFiles(const QString &configura
             return scheme;
     }
     return std::nullopt;
+}
+
+bool moreContrastInSettingsFiles(const QString &configurationFolder) {
+    for (const QString &name : {u"/gtk-4.0/settings.ini"_s, u"/gtk-3.0/settings.ini"_s}) {
+        const QVariant theme = settingIn(configurationFolder + name, u"Settings/gtk-theme-name"_s);
+        if (theme.isValid())
+            return theme.toString().startsWith(u"HighContrast"_s, Qt::CaseInsensitive);
+    }
+    return false;
 }
 
 std::optional<AccentColor> accentColorInSettingsFiles(const QString &configurationFolder) {

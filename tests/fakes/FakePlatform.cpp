@@ -167,6 +167,15 @@ std::optional<QString> FakeWorkspace::targetOfAlias(const QString &path) const {
 
 void FakeAppearance::setScheme(std::optional<Scheme> scheme) {
     m_scheme = scheme;
+    tellListeners();
+}
+
+void FakeAppearance::setPrefersMoreContrast(bool prefersMoreContrast) {
+    m_prefersMoreContrast = prefersMoreContrast;
+    tellListeners();
+}
+
+void FakeAppearance::tellListeners() const {
     const auto listeners = m_listeners;
     for (const auto &[owner, changed] : listeners)
         changed();

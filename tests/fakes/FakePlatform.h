@@ -22,6 +22,7 @@
 #include "tests/fakes/FakeAuthorization.h"
 #include "tests/fakes/FakeChildProcesses.h"
 #include "tests/fakes/FakeFileSystems.h"
+#include "tests/fakes/FakeInterruptions.h"
 #include "tests/fakes/FakeKeyboardLayout.h"
 #include "tests/fakes/FakeMenuBarEvents.h"
 #include "tests/fakes/FakePasteboard.h"
@@ -171,17 +172,22 @@ private:
 class FakeAppearance final : public zt::Appearance {
 public:
     std::optional<Scheme> preferredScheme() const override { return m_scheme; }
+    bool prefersMoreContrast() const override { return m_prefersMoreContrast; }
     ControlTint controlTint() const override { return tint; }
     std::optional<zt::AccentColor> accentColor() const override { return accent; }
     void setChangeListener(const void *owner, std::function<void()> changed) override;
     void setScheme(std::optional<Scheme> scheme);
+    void setPrefersMoreContrast(bool prefersMoreContrast);
     std::size_t listenerCount() const { return m_listeners.size(); }
 
     ControlTint tint = ControlTint::Blue;
     std::optional<zt::AccentColor> accent;
 
 private:
+    void tellListeners() const;
+
     std::optional<Scheme> m_scheme;
+    bool m_prefersMoreContrast = false;
     std::map<const void *, std::function<void()>> m_listeners; // by owner
 };
 
@@ -219,6 +225,7 @@ struct FakePlatform {
     FakePasteboard pasteboard;
     FakeUserInput userInput;
     FakeFileSystems fileSystems;
+    FakeInterruptions interruptions;
     zt::Platform services{.log = log,
                           .clock = clock,
                           .childProcesses = childProcesses,
@@ -240,6 +247,7 @@ struct FakePlatform {
                           .menuBarEvents = menuBarEvents,
                           .pasteboard = pasteboard,
                           .userInput = userInput,
-                          .fileSystems = fileSystems};
+                          .fileSystems = fileSystems,
+                          .interruptions = interruptions};
     zt::ScopedPlatform current{services};
 };

@@ -36,5 +36,6 @@ zt::Platform platformWith(FakePlatform &fakes, const RealServices &real) {
             .menuBarEvents = fakes.menuBarEvents,
             .pasteboard = fakes.pasteboard,
             .userInput = fakes.userInput,
-            .fileSystems = fakes.fileSystems};
+            .fileSystems = fakes.fileSystems,
+            .interruptions = fakes.interruptions};
 }

@@ -71,6 +71,8 @@ TEST_F(SettingsFilesTest, eachFileSaysItInItsOwnWay) {
         {"a wish for light", gtk3, "[Settings]\ngtk-application-prefer-dark-theme=0\n", light},
         {"a dark theme", gtk3, "[Settings]\ngtk-theme-name=Adwaita-dark\n", dark},
         {"a theme's dark variant", gtk3, "[Settings]\ngtk-theme-name=Adwaita:dark\n", dark},
+        {"a dark theme for contrast", gtk3, "[Settings]\ngtk-theme-name=HighContrastInverse\n",
+         dark},
         {"a light theme", gtk3, "[Settings]\ngtk-theme-name=Adwaita\n", light},
         {"no such setting of GTK", gtk3, "[Settings]\ngtk-font-name=Sans 10\n", std::nullopt},
         {"an empty file", gtk3, "", std::nullopt},
@@ -115,4 +117,22 @@ TEST_F(SettingsFilesTest, theAccentColourIsReadFromItsNumbers) {
         write(kde, QByteArray("[General]\nAccentColor=") + value + '\n');
         EXPECT_FALSE(zt::accentColorInSettingsFiles(folder)) << value;
     }
+}
+
+TEST_F(SettingsFilesTest, aThemeMadeForContrastIsKnownByItsName) {
+    const std::pair<QByteArray, bool> rows[] = {
+        {"HighContrast", true},
+        {"HighContrastInverse", true},
+        {"highcontrast", true},
+        {"Adwaita", false},
+        {"", false},
+    };
+    EXPECT_FALSE(zt::moreContrastInSettingsFiles(folder));
+    for (const auto &[theme, isMore] : rows) {
+        write(gtk3, "[Settings]\ngtk-theme-name=" + theme + '\n');
+        EXPECT_EQ(zt::moreContrastInSettingsFiles(folder), isMore) << theme.toStdString();
+    }
+    write(gtk3, "[Settings]\ngtk-theme-name=HighContrast\n");
+    write(gtk4, "[Settings]\ngtk-theme-name=Adwaita\n");
+    EXPECT_FALSE(zt::moreContrastInSettingsFiles(folder)) << "the newer file counts";
 }
