@@ -6,6 +6,7 @@
 // An installation, apart from how it is shown: what is to be installed and where, what must not run
 // meanwhile, and the copy itself.
 
+#include "Installer/Sources/Forecast.h"
 #include "Platform/Bundles.h"
 #include "Platform/Platform.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
@@ -68,6 +69,11 @@ public:
     bool authorizedInstall(const QString &source, const QString &to,
                            const std::optional<QString> &wrap, bool *canceled,
                            const std::stop_token &stop = {});
+
+    // What the installation would do now. Changes nothing; what takes its time is the counting of
+    // the product's bytes, which stops when that is asked for. Thread: any, once the arguments are
+    // complete.
+    Forecast forecast(const std::stop_token &stop = {}) const;
 
     // Stops the copy, as long as the product has not appeared at its destination. Thread: any.
     void stopCopying();
