@@ -5,6 +5,8 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 #include "Installer/Sources/LogRedirection.h"
+#include "Installer/Sources/RunMode.h"
+#include "Installer/Sources/UnattendedMain.h"
 #include "Platform/NativePlatform.h"
 
 #include <QApplication>
@@ -21,6 +23,11 @@ bool hasDisplay() {
 } // namespace
 
 int applicationMain(int argumentCount, char **argumentVector) {
+    QStringList arguments;
+    for (int i = 0; i < argumentCount; ++i)
+        arguments << QString::fromLocal8Bit(argumentVector[i]);
+    if (const RunChoice choice = runChoice(arguments); choice.mode != RunMode::Window)
+        return runWithoutWindow(choice, arguments);
     if (!hasDisplay()) {
         std::fputs("VelmoraInstaller: there is no screen to show a window on. Start it from a "
                    "desktop session, or set DISPLAY.\n",
@@ -28,9 +35,6 @@ int applicationMain(int argumentCount, char **argumentVector) {
         return 1;
     }
     std::jthread preparation = zt::beginPreparingTexts();
-    QStringList arguments;
-    for (int i = 0; i < argumentCount; ++i)
-        arguments << QString::fromLocal8Bit(argumentVector[i]);
     // The keys are the installer's own: the framework must not take "-style" or "-name" for itself.
     int frameworkArgumentCount = 1;
     QApplication application(frameworkArgumentCount, argumentVector);

@@ -19,8 +19,9 @@
 #include <stop_token>
 
 namespace zt {
-struct CopyProgress;
+enum class CopiedRights;
 enum class Proof;
+struct CopyProgress;
 } // namespace zt
 
 // What shows it derives from it. Thread: main, unless an operation says otherwise.
@@ -122,8 +123,9 @@ protected:
     // Answers the name of an application that would not quit.
     std::optional<QString> quitRunningCopies(const std::stop_token &stop) const;
     // Copies with the rights that this process has. The key of a message on failure.
-    std::optional<QString> copyDirectly(const std::stop_token &stop);
-    bool copyWasStopped() const { return m_copyStop.stop_requested(); }
+    std::optional<QString> copyDirectly(const std::stop_token &stop, zt::CopiedRights rights);
+    static inline const QString stoppedMessageKey =
+        QStringLiteral("The installation was stopped."); // when that is why it did not succeed
     void registerProduct() const;
     // The message under the key, with what the user can do now.
     QString failureMessage(const QString &messageKey) const;

@@ -50,7 +50,7 @@ std::optional<QString> Installation::installMyselfInDestination(const std::stop_
     if (m_forcesAuthorization)
         ZTLog("enforcing authorization");
     if (isWritable && !m_forcesAuthorization) {
-        if (auto failure = copyDirectly(stop))
+        if (auto failure = copyDirectly(stop, zt::CopiedRights::All))
             return failure;
     } else {
         bool canceled = false;
@@ -73,7 +73,8 @@ zt::Proof Installation::proofFor(const QString &source) const {
                                                                : zt::Proof::None;
 }
 
-std::optional<QString> Installation::copyDirectly(const std::stop_token &stop) {
+std::optional<QString> Installation::copyDirectly(const std::stop_token &stop,
+                                                  zt::CopiedRights rights) {
     const auto bytes = [this](const QString &key) {
         return QFile::encodeName(argument(key).value_or(QString())).toStdString();
     };
@@ -97,6 +98,7 @@ std::optional<QString> Installation::copyDirectly(const std::stop_token &stop) {
                     [this](const zt::CopyProgress &progress) {
                         onMainThread([this, progress] { showCopyProgress(progress); });
                     },
+                .rights = rights,
                 .proof = proofFor(sourcePath())});
     onMainThread([this] { hideCopyProgress(); });
     switch (result) {
@@ -108,7 +110,7 @@ std::optional<QString> Installation::copyDirectly(const std::stop_token &stop) {
         break;
     }
     if (m_copyStop.stop_requested())
-        return u"The installation was stopped."_s;
+        return stoppedMessageKey;
     return u"Installation failed."_s;
 }
 

@@ -51,8 +51,7 @@ std::optional<QString> stringArgument(const QVariantMap &arguments, const QStrin
     return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
 }
 
-QVariantMap parse(const QStringList &argumentVector) {
-    ZTLog("arguments: %@", argumentVector);
+QVariantMap dictionary(const QStringList &argumentVector) {
     QVariantMap arguments;
     QString key = u""_s;
     for (const QString &element : argumentVector) {
@@ -65,6 +64,11 @@ QVariantMap parse(const QStringList &argumentVector) {
         }
     }
     return arguments;
+}
+
+QVariantMap parse(const QStringList &argumentVector) {
+    ZTLog("arguments: %@", argumentVector);
+    return dictionary(argumentVector);
 }
 
 bool completeSourcePath(QVariantMap &arguments, const QString &installerBundlePath) {

@@ -24,6 +24,9 @@ std::optional<QString> stringArgument(const QVariantMap &arguments, const QStrin
 // The dictionary of a full argument vector, element 0 included. An element that begins with "-" is
 // the key for the values that follow; a key ending in "Code" collects all its values, any other
 // keeps the last. Values before the first key are stored under the empty key.
+QVariantMap dictionary(const QStringList &argumentVector);
+
+// The same with a line in the log.
 QVariantMap parse(const QStringList &argumentVector);
 
 // Fills in the source path when it was not given: the innermost folder ending in ".app" around the

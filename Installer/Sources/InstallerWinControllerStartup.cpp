@@ -15,7 +15,6 @@
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
@@ -36,8 +35,7 @@ const QUrl softwareArchive(u"https://www.velmora.example/downloads/archive/"_s);
 
 void InstallerWinController::awakeFromNib() {
     if (shouldRedirectLog(m_environment.argumentVector)) {
-        m_environment.redirectStandardStreams(QDir::homePath() +
-                                              u"/Library/Logs/VelmoraInstaller.log"_s);
+        m_environment.redirectStandardStreams(logPath());
     } else {
         ZTLog("direct invocation");
     }

@@ -15,6 +15,10 @@ bool shouldRedirectLog(const QStringList &argumentVector) {
     return argumentVector.size() >= 3 && argumentVector.at(1) != u"-AppleLanguages"_s;
 }
 
+QString logPath() {
+    return QDir::homePath() + u"/Library/Logs/VelmoraInstaller.log"_s;
+}
+
 void redirectStandardStreams(const QString &path) {
     QDir().mkpath(QFileInfo(path).path());
     const QByteArray name = QFile::encodeName(path);

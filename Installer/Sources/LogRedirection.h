@@ -12,6 +12,9 @@
 // that is, with fewer than two arguments or with a choice of language first.
 bool shouldRedirectLog(const QStringList &argumentVector);
 
+// The log file of this user.
+QString logPath();
+
 // Appends the standard output and the standard error stream to the file, or drops them when it
 // cannot be written. Folders that are missing above the file are made.
 void redirectStandardStreams(const QString &path);

@@ -22,6 +22,15 @@ UniqueFd openAt(int folder, const char *name, int flags, mode_t mode) {
         retryInterrupted([&] { return ::openat(folder, name, flags | O_CLOEXEC, mode); }));
 }
 
+UniqueFd duplicateOf(int descriptor) {
+    // Not in the place of a standard stream that happens to be closed.
+    return UniqueFd(::fcntl(descriptor, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+}
+
+bool isTerminal(int descriptor) {
+    return ::isatty(descriptor) == 1;
+}
+
 ssize_t readSome(int descriptor, char *bytes, std::size_t size) {
     return retryInterrupted([&] { return ::read(descriptor, bytes, size); });
 }

@@ -34,6 +34,12 @@ auto retryInterrupted(Call call) {
 // nothing on failure.
 UniqueFd openAt(int folder, const char *name, int flags, mode_t mode = 0);
 
+// Another descriptor of the same open file. Owns nothing on failure.
+UniqueFd duplicateOf(int descriptor);
+
+// Whether a person sits behind it.
+bool isTerminal(int descriptor);
+
 // One read; the number of bytes, 0 at the end, -1 on failure.
 ssize_t readSome(int descriptor, char *bytes, std::size_t size);
 

@@ -33,3 +33,7 @@ inline const QString ZTInstallerKeyWrapperPath = QStringLiteral("wrapperPath");
 inline const QString ZTInstallerCompletionSound = QStringLiteral("completionSound");
 // Seconds after the installation at which the installer quits by itself; 0 or less: it stays.
 inline const QString ZTInstallerCompletionQuit = QStringLiteral("completionQuit");
+// Exactly "YES" installs without a window and without a question.
+inline const QString ZTInstallerUnattended = QStringLiteral("unattended");
+// "YES" or "JSON" tells what would happen, and changes nothing.
+inline const QString ZTInstallerCheck = QStringLiteral("check");
