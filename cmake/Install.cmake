@@ -8,6 +8,15 @@ install(DIRECTORY "${PROJECT_BINARY_DIR}/VelmoraInstaller.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora-installer
     USE_SOURCE_PERMISSIONS)
 
+# The command of that name, and its manual page.
+file(RELATIVE_PATH installerFromCommand "/${CMAKE_INSTALL_BINDIR}"
+    "/${CMAKE_INSTALL_LIBDIR}/velmora-installer/VelmoraInstaller.app/Contents/Linux/VelmoraInstaller")
+set(installerCommand "${PROJECT_BINARY_DIR}/installed-command/VelmoraInstaller")
+file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/installed-command")
+file(CREATE_LINK "${installerFromCommand}" "${installerCommand}" SYMBOLIC)
+install(FILES "${installerCommand}" DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES docs/man/VelmoraInstaller.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
 # The helper that a program which uses ZTUtilities::launchMicro() keeps among its resources.
 install(DIRECTORY "${PROJECT_BINARY_DIR}/Micro.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff

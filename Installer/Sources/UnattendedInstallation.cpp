@@ -28,9 +28,11 @@ UnattendedInstallation::UnattendedInstallation(Environment environment)
     , m_environment(std::move(environment)) {}
 
 UnattendedInstallation::Outcome UnattendedInstallation::install() {
-    extractArguments(m_environment.argumentVector);
     Outcome outcome;
-    if (auto found = obstacle()) {
+    auto found = badArguments();
+    if (!found)
+        found = obstacle();
+    if (found) {
         outcome = *std::move(found);
     } else {
         m_progress.emplace(productName(), m_environment.progressTarget,
@@ -47,28 +49,46 @@ UnattendedInstallation::Outcome UnattendedInstallation::install() {
     return outcome;
 }
 
-std::optional<UnattendedInstallation::Outcome> UnattendedInstallation::obstacle() {
-    using Answer = std::optional<Outcome>;
-    auto missing = findProduct();
-    if (!missing)
-        missing = completeArguments();
-    if (!missing && !QFileInfo(sourcePath()).isDir())
-        missing = ZTFormat(localizedString("There is no product at %@."), sourcePath());
-    if (missing)
-        return Answer({ExitStatus::BadArguments, *missing});
+UnattendedInstallation::Prospect UnattendedInstallation::check() {
+    if (auto mistake = badArguments())
+        return {.outcome = *std::move(mistake)};
+    Prospect prospect{.forecast = forecast(m_stop.get_token()), .outcome = {}};
+    if (auto found = obstacle()) {
+        prospect.outcome = *std::move(found);
+    } else if (prospect.forecast->space.isTooLittle()) {
+        prospect.outcome = {
+            ExitStatus::CopyFailed,
+            ZTFormat(localizedString("There is too little space for %@."), productName())};
+    } else {
+        prospect.outcome.message = ZTFormat(localizedString("%@ can be installed."), productName());
+    }
+    return prospect;
+}
+
+std::optional<UnattendedInstallation::Outcome> UnattendedInstallation::badArguments() {
+    extractArguments(m_environment.argumentVector);
+    auto mistake = findProduct();
+    if (!mistake)
+        mistake = completeArguments();
+    if (!mistake && !QFileInfo(sourcePath()).isDir())
+        mistake = ZTFormat(localizedString("There is no product at %@."), sourcePath());
+    return mistake ? std::optional(Outcome{ExitStatus::BadArguments, *mistake}) : std::nullopt;
+}
+
+std::optional<UnattendedInstallation::Outcome> UnattendedInstallation::obstacle() const {
     if (!systemIsSupported()) {
-        return Answer(
-            {ExitStatus::SystemTooOld,
-             ZTFormat(localizedString("%1$@ %2$@ cannot be installed on this computer because it "
-                                      "requires Mac OS X %3$@ or newer."),
-                      productName(), version(), minimumSystemVersion())});
+        return Outcome{
+            ExitStatus::SystemTooOld,
+            ZTFormat(localizedString("%1$@ %2$@ cannot be installed on this computer because it "
+                                     "requires Mac OS X %3$@ or newer."),
+                     productName(), version(), minimumSystemVersion())};
     }
     if (!canWriteToPath(destinationPath())) {
-        return Answer({ExitStatus::NotAuthorised,
+        return Outcome{ExitStatus::NotAuthorised,
                        ZTFormat(localizedString("Only an administrator may install %1$@ in %2$@. "
                                                 "Run the installer with sudo, or choose another "
                                                 "place with -destinationPath."),
-                                productName(), deletingLastPathComponent(destinationPath()))});
+                                productName(), deletingLastPathComponent(destinationPath()))};
     }
     return std::nullopt;
 }

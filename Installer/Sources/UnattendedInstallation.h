@@ -53,13 +53,22 @@ public:
     // an event loop until all is done.
     Outcome install();
 
+    // What install() would do now, and how it would end, as far as that can be known; without a
+    // forecast when the arguments are bad. Changes nothing.
+    struct Prospect {
+        std::optional<Forecast> forecast = {};
+        Outcome outcome;
+    };
+    Prospect check();
+
     // Stops the installation; install() then answers so, unless the product has appeared at its
     // destination already.
     void cancel() { m_stop.request_stop(); }
 
 private:
     // What stands against the installation, before anything is changed.
-    std::optional<Outcome> obstacle();
+    std::optional<Outcome> badArguments();
+    std::optional<Outcome> obstacle() const;
     // Thread: install, as for all that follow.
     Outcome installThread();
     void registerWhereItCounts() const;

@@ -3,6 +3,7 @@
 
 #include "Installer/Sources/UnattendedMain.h"
 
+#include "Installer/Sources/ForecastReport.h"
 #include "Installer/Sources/LogRedirection.h"
 #include "Installer/Sources/UnattendedInstallation.h"
 #include "Installer/train/CleanProcess.h"
@@ -83,7 +84,8 @@ bool registerForAllUsers(const QByteArray &prepared, const QString &destination)
     return bool(done);
 }
 
-int install(const QStringList &arguments, const zt::Platform &platform, const Streams &streams) {
+UnattendedInstallation::Environment
+environmentFor(const QStringList &arguments, const zt::Platform &platform, const Streams &streams) {
     UnattendedInstallation::Environment environment{
         .platform = platform,
         .argumentVector = arguments,
@@ -92,7 +94,10 @@ int install(const QStringList &arguments, const zt::Platform &platform, const St
         .writeProgress = [&streams](const QByteArray &bytes) { write(streams.error, bytes); }};
     if (zt::checkIsRoot())
         environment.registerForAllUsers = registerForAllUsers;
-    UnattendedInstallation installation(std::move(environment));
+    return environment;
+}
+
+int install(UnattendedInstallation &installation, const Streams &streams) {
     const zt::TerminationRequests requests;
     QSocketNotifier notifier(requests.descriptor(), QSocketNotifier::Read);
     QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] {
@@ -102,6 +107,15 @@ int install(const QStringList &arguments, const zt::Platform &platform, const St
     const UnattendedInstallation::Outcome outcome = installation.install();
     write(streams.output, outcome.message.toLocal8Bit() + '\n');
     return static_cast<int>(outcome.status);
+}
+
+int check(UnattendedInstallation &installation, RunMode form, const Streams &streams) {
+    const auto [forecast, outcome] = installation.check();
+    const ForecastOutcome told{static_cast<int>(outcome.status), outcome.message};
+    write(streams.output, form == RunMode::CheckJson
+                              ? forecastJson(forecast, told)
+                              : forecastReport(forecast, told).toLocal8Bit());
+    return told.status;
 }
 
 } // namespace
@@ -121,9 +135,10 @@ int runWithoutWindow(const RunChoice &choice, const QStringList &arguments) {
     default:
         break;
     }
+    const bool isCheck = choice.mode == RunMode::Check || choice.mode == RunMode::CheckJson;
     const bool isLogged = shouldRedirectLog(arguments);
-    if (isLogged)
-        redirectStandardStreams(logPath());
+    if (isLogged) // a check leaves no traces, not even there
+        redirectStandardStreams(isCheck ? QStringLiteral("/dev/null") : logPath());
     // Icons and names are read as ever; nothing is shown, so that no screen is needed.
     std::array<std::string, 3> words = {"VelmoraInstaller", "-platform", "offscreen"};
     std::array<char *, 4> frameworkArguments = {words[0].data(), words[1].data(), words[2].data()};
@@ -134,5 +149,6 @@ int runWithoutWindow(const RunChoice &choice, const QStringList &arguments) {
     const zt::ScopedPlatform current(native.services());
     if (!isLogged)
         ZTLog("direct invocation");
-    return install(arguments, native.services(), streams);
+    UnattendedInstallation installation(environmentFor(arguments, native.services(), streams));
+    return isCheck ? check(installation, choice.mode, streams) : install(installation, streams);
 }

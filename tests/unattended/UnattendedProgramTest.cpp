@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStandardPaths>
 #include <QTest>
 
@@ -220,6 +222,33 @@ TEST_F(UnattendedAsRootTest, theProductBecomesRootsAndIsForAllUsers) {
     EXPECT_TRUE(QFileInfo::exists(path(u"share/applications/org.example.Demo.desktop"_s)))
         << log().constData();
     EXPECT_FALSE(QFileInfo::exists(path(u"home/.local/share/applications"_s)));
+}
+
+TEST_F(UnattendedProgramTest, aCheckSaysWhatWouldHappenAndLeavesNoTraces) {
+    const Run report = run(unattended({u"-check"_s, u"YES"_s}));
+    EXPECT_EQ(report.status, 0);
+    EXPECT_TRUE(report.output.startsWith(
+        "Product: Demo 2.0\nFrom: " + QFile::encodeName(path(u"Disk/Demo.app"_s)) +
+        "\nTo: " + QFile::encodeName(destination()) + '\n'))
+        << report.output.constData();
+    EXPECT_TRUE(report.output.endsWith("\nDemo can be installed.\n")) << report.output.constData();
+    EXPECT_EQ(report.error, "");
+    EXPECT_FALSE(isInstalled());
+    EXPECT_TRUE(
+        QDir(path(u"home"_s)).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+}
+
+TEST_F(UnattendedProgramTest, aCheckForProgramsIsOneJsonObjectAlsoForBadArguments) {
+    const QJsonObject good =
+        QJsonDocument::fromJson(run(unattended({u"-check"_s, u"JSON"_s})).output).object();
+    EXPECT_EQ(good.value(u"status"_s).toInt(-1), 0);
+    EXPECT_EQ(good.value(u"destinationPath"_s).toString(), destination());
+    EXPECT_GT(good.value(u"bytesNeeded"_s).toInteger(), 1000);
+    EXPECT_GT(good.value(u"bytesAvailable"_s).toInteger(), 1000);
+    const Run bad = run({u"-check"_s, u"JSON"_s});
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_EQ(QJsonDocument::fromJson(bad.output).object(),
+              (QJsonObject{{u"status"_s, 2}, {u"message"_s, u"missing source path"_s}}));
 }
 
 TEST_F(UnattendedProgramTest, helpNamesEveryExitStatusAndTheVersionIsTold) {

@@ -180,6 +180,44 @@ TEST_F(UnattendedInstallationTest, aTrashThatRefusesIsTheReasonEvenWhenItWasToBe
     EXPECT_EQ(install(), ExitStatus::CopyFailed);
 }
 
+TEST_F(UnattendedInstallationTest, aCheckTellsAndChangesNothing) {
+    run(7, u"Demo"_s, 1);
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    platform.bundles.add(destination(), {{u"CFBundleShortVersionString"_s, u"1.0"_s}});
+    const UnattendedInstallation::Prospect prospect = installation().check();
+    EXPECT_EQ(prospect.outcome.status, ExitStatus::Done);
+    EXPECT_EQ(prospect.outcome.message, u"Demo can be installed."_s);
+    ASSERT_TRUE(prospect.forecast);
+    EXPECT_EQ(prospect.forecast->destination, destination());
+    EXPECT_EQ(prospect.forecast->existingCopy->version, u"1.0"_s);
+    EXPECT_EQ(prospect.forecast->runningCopies.size(), 1);
+    EXPECT_EQ(platform.runningApplications.applications[7].politeRequests, 0);
+    EXPECT_TRUE(QFileInfo::exists(destination() + u"/old"_s));
+    EXPECT_EQ(platform.workspace.registered, QStringList());
+    EXPECT_EQ(progress, "");
+}
+
+TEST_F(UnattendedInstallationTest, aCheckAnswersTheStatusThatTheInstallationWouldEndWith) {
+    const UnattendedInstallation::Prospect prospect =
+        installation({u"-minSystemVersion"_s, u"12.5"_s}).check();
+    EXPECT_EQ(prospect.outcome.status, ExitStatus::SystemTooOld);
+    EXPECT_TRUE(prospect.forecast->systemTooOld);
+}
+
+TEST_F(UnattendedInstallationTest, aCheckOfBadArgumentsHasNothingToForecast) {
+    const UnattendedInstallation::Prospect prospect =
+        installation({u"-sourcePath"_s, u"/no/Demo.app"_s, u"-productCode"_s, u"DEMO"_s}).check();
+    EXPECT_EQ(prospect.outcome.status, ExitStatus::BadArguments);
+    EXPECT_FALSE(prospect.forecast);
+}
+
+TEST_F(UnattendedInstallationTest, withTooLittleSpaceTheCopyWouldFail) {
+    platform.fileSystems.availableBytes.insert(path(u"Applications"_s), 1);
+    const UnattendedInstallation::Prospect prospect = installation().check();
+    EXPECT_EQ(prospect.outcome.status, ExitStatus::CopyFailed);
+    EXPECT_EQ(prospect.outcome.message, u"There is too little space for Demo."_s);
+}
+
 namespace {
 
 struct MistakeRow {
