@@ -56,6 +56,39 @@ constexpr std::array darkColors{
     RoleColor{QPalette::Shadow, 0xff000000},
 };
 
+// Instead of some of the above, for those who want more contrast.
+constexpr std::array lightContrastColors{
+    RoleColor{QPalette::Window, 0xffffffff},
+    RoleColor{QPalette::WindowText, 0xff000000},
+    RoleColor{QPalette::Text, 0xff000000},
+    RoleColor{QPalette::AlternateBase, 0xffffffff},
+    RoleColor{QPalette::Button, 0xffd8d8d8},
+    RoleColor{QPalette::ButtonText, 0xff000000},
+    RoleColor{QPalette::Highlight, 0xff00307a},
+    RoleColor{QPalette::Link, 0xff00307a},
+    RoleColor{QPalette::LinkVisited, 0xff4a1a6b},
+    RoleColor{QPalette::ToolTipBase, 0xff000000},
+    RoleColor{QPalette::PlaceholderText, 0xff404040},
+    RoleColor{QPalette::Mid, 0xff606060},
+    RoleColor{QPalette::Dark, 0xff404040},
+    RoleColor{QPalette::Shadow, 0xff000000},
+};
+
+constexpr std::array darkContrastColors{
+    RoleColor{QPalette::Window, 0xff000000},
+    RoleColor{QPalette::Base, 0xff000000},
+    RoleColor{QPalette::AlternateBase, 0xff000000},
+    RoleColor{QPalette::Button, 0xff303030},
+    RoleColor{QPalette::Highlight, 0xff9cc8ff},
+    RoleColor{QPalette::HighlightedText, 0xff000000},
+    RoleColor{QPalette::Link, 0xff9cc8ff},
+    RoleColor{QPalette::LinkVisited, 0xffe0c8f0},
+    RoleColor{QPalette::ToolTipBase, 0xff000000},
+    RoleColor{QPalette::PlaceholderText, 0xffc0c0c0},
+    RoleColor{QPalette::Light, 0xffc0c0c0},
+    RoleColor{QPalette::Midlight, 0xffa0a0a0},
+};
+
 constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> textsOnBackgrounds[] = {
     {QPalette::WindowText, QPalette::Window},
     {QPalette::Text, QPalette::Base},
@@ -64,17 +97,39 @@ constexpr std::pair<QPalette::ColorRole, QPalette::ColorRole> textsOnBackgrounds
 
 constexpr QRgb lightDisabledText = 0xff86868b;
 constexpr QRgb darkDisabledText = 0xff86868c;
+constexpr QRgb lightContrastDisabledText = 0xff555555;
+constexpr QRgb darkContrastDisabledText = 0xffb0b0b0;
+
+template <std::size_t count>
+void setColors(QPalette &palette, const std::array<RoleColor, count> &colors) {
+    for (const auto &[role, color] : colors)
+        palette.setColor(QPalette::All, role, QColor::fromRgb(color));
+}
+
+void setDisabledText(QPalette &palette, QRgb color) {
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor::fromRgb(color));
+}
 
 } // namespace
 
 QPalette paletteForScheme(zt::Appearance::Scheme scheme) {
     const bool dark = scheme == zt::Appearance::Scheme::Dark;
     QPalette palette;
-    for (const auto &[role, color] : dark ? darkColors : lightColors)
-        palette.setColor(QPalette::All, role, QColor::fromRgb(color));
-    const QColor disabled = QColor::fromRgb(dark ? darkDisabledText : lightDisabledText);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, disabled);
+    setColors(palette, dark ? darkColors : lightColors);
+    setDisabledText(palette, dark ? darkDisabledText : lightDisabledText);
+    return palette;
+}
+
+QPalette contrastPaletteForScheme(zt::Appearance::Scheme scheme) {
+    QPalette palette = paletteForScheme(scheme);
+    if (scheme == zt::Appearance::Scheme::Dark) {
+        setColors(palette, darkContrastColors);
+        setDisabledText(palette, darkContrastDisabledText);
+    } else {
+        setColors(palette, lightContrastColors);
+        setDisabledText(palette, lightContrastDisabledText);
+    }
     return palette;
 }
 

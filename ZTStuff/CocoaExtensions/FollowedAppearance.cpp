@@ -21,6 +21,12 @@ FollowedAppearance::~FollowedAppearance() {
 
 void FollowedAppearance::apply() const {
     const auto scheme = m_appearance.preferredScheme();
+    if (m_appearance.prefersMoreContrast()) {
+        const bool isDark = isDarkPalette(m_platformPalette);
+        QApplication::setPalette(contrastPaletteForScheme(scheme.value_or(
+            isDark ? zt::Appearance::Scheme::Dark : zt::Appearance::Scheme::Light)));
+        return;
+    }
     const bool wantsDark = scheme == zt::Appearance::Scheme::Dark;
     const bool fits = !scheme || isDarkPalette(m_platformPalette) == wantsDark;
     QApplication::setPalette(fits ? m_platformPalette : paletteForScheme(*scheme));

@@ -9,9 +9,10 @@
 
 #include <QPalette>
 
-// While it exists, the application's palette is light or dark as the desktop's setting says, also
-// when that changes; then it is again what it was. The framework's own platform themes follow the
-// setting in some desktops only; where theirs already fits, it stays. Thread: main.
+// While it exists, the application's palette is light or dark, and has more contrast than usual, as
+// the desktop's settings say, also when they change; then it is again what it was. The framework's
+// own platform themes follow the setting in some desktops only; where theirs already fits, it
+// stays. Thread: main.
 class FollowedAppearance {
 public:
     // The service outlives this.

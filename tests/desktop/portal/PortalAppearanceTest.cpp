@@ -4,6 +4,7 @@
 #include "Platform/linux/PortalAppearance.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -165,6 +166,27 @@ TEST_F(PortalAppearanceTest, settingsFilesCountWithoutABus) {
 TEST_F(PortalAppearanceTest, withoutAPortalNothingIsKnown) {
     const zt::PortalAppearance appearance(configuration.path());
     EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
+}
+
+TEST_F(PortalAppearanceTest, theWishForContrastIsHeardAndFollowed) {
+    startPortal({u"2"_s, u"contrast"_s});
+    zt::PortalAppearance appearance(configuration.path());
+    int changes = 0;
+    appearance.setChangeListener(this, [&changes] { ++changes; });
+    ASSERT_TRUE(QTest::qWaitFor([&appearance] { return appearance.prefersMoreContrast(); }));
+    EXPECT_GE(changes, 1);
+    portal.write("contrast 0\n");
+    EXPECT_TRUE(QTest::qWaitFor([&appearance] { return !appearance.prefersMoreContrast(); }));
+}
+
+TEST_F(PortalAppearanceTest, withoutAPortalTheThemeTellsOfTheContrast) {
+    ASSERT_TRUE(QDir(configuration.path()).mkpath(u"gtk-3.0"_s));
+    QFile file(configuration.filePath(u"gtk-3.0/settings.ini"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("[Settings]\ngtk-theme-name=HighContrast\n");
+    file.close();
+    const zt::PortalAppearance appearance(configuration.path());
+    EXPECT_TRUE(QTest::qWaitFor([&appearance] { return appearance.prefersMoreContrast(); }));
 }
 
 int main(int argc, char **argv) {

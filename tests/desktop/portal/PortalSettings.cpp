@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A desktop portal with nothing but the settings of the colour scheme and the accent colour. Says
-// "ready" once it can be asked; each line "scheme N" or "accent R G B" on its input sets the value
-// and tells everybody; the input's end ends it. The first argument is the scheme at first; the
-// others are "slow", which makes it answer late, or "accent" and three numbers: without them no
-// accent colour is known at first. "none" as scheme means that it is not known either.
+// A desktop portal with nothing but the settings of the colour scheme, the contrast and the accent
+// colour. Says "ready" once it can be asked; each line "scheme N", "contrast N" or "accent R G B"
+// on its input sets the value and tells everybody; the input's end ends it. The first argument is
+// the scheme at first; the others are "slow", which makes it answer late, "contrast" for more of
+// it, or "accent" and three numbers: without them no accent colour is known at first. "none" as
+// scheme means that it is not known either.
 
 #include <QCoreApplication>
 #include <QDBusArgument>
@@ -61,6 +62,8 @@ public:
         const QStringList words = line.split(u' ');
         if (words.size() == 2 && words[0] == u"scheme")
             set(u"color-scheme"_s, words[1].toUInt());
+        else if (words.size() == 2 && words[0] == u"contrast")
+            set(u"contrast"_s, words[1].toUInt());
         else if (words.size() == 4 && words[0] == u"accent")
             set(u"accent-color"_s,
                 QVariant::fromValue(
@@ -98,6 +101,8 @@ int main(int argc, char **argv) {
     qDBusRegisterMetaType<Color>();
     if (arguments.value(1) != u"none")
         settings.obey(u"scheme "_s + arguments.value(1));
+    if (arguments.contains(u"contrast"_s))
+        settings.obey(u"contrast 1"_s);
     if (const qsizetype accent = arguments.indexOf(u"accent"_s); accent > 0)
         settings.obey(arguments.mid(accent, 4).join(u' '));
     QDBusConnection bus = QDBusConnection::sessionBus();

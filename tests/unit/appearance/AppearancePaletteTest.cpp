@@ -46,6 +46,32 @@ TEST_F(AppearancePaletteTest, everyTextOfThePalettesCanBeRead) {
     }
 }
 
+TEST_F(AppearancePaletteTest, whoWantsContrastGetsIt) {
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> texts[] = {
+        {QPalette::WindowText, QPalette::Window},       {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},      {QPalette::ButtonText, QPalette::Button},
+        {QPalette::ToolTipText, QPalette::ToolTipBase},
+    };
+    for (const Scheme scheme : bothSchemes) {
+        const QPalette palette = contrastPaletteForScheme(scheme);
+        EXPECT_EQ(isDarkPalette(palette), scheme == Scheme::Dark);
+        const auto contrast = [&palette](auto text, auto background, auto group) {
+            return contrastRatio(palette.color(group, text), palette.color(group, background));
+        };
+        for (const auto &[text, background] : texts) {
+            EXPECT_GE(contrast(text, background, QPalette::Active), 13.0) << text;
+            EXPECT_GE(contrast(text, background, QPalette::Disabled), 4.5) << text;
+        }
+        const std::pair<QPalette::ColorRole, QPalette::ColorRole> others[] = {
+            {QPalette::HighlightedText, QPalette::Highlight},
+            {QPalette::Link, QPalette::Base},
+            {QPalette::LinkVisited, QPalette::Base},
+        };
+        for (const auto &[text, background] : others)
+            EXPECT_GE(contrast(text, background, QPalette::Active), 7.0) << text;
+    }
+}
+
 TEST_F(AppearancePaletteTest, theRedOfWarningsCanBeReadInWindowsAndFields) {
     for (const Scheme scheme : bothSchemes) {
         const QPalette palette = paletteForScheme(scheme);

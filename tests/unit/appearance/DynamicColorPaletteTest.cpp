@@ -148,3 +148,19 @@ TEST_F(DynamicColorPaletteTest, anApplicationFollowsItsUser) {
     platform.appearance.setScheme(Scheme::Dark);
     EXPECT_FALSE(isDarkPalette(QApplication::palette())) << "not followed any more";
 }
+
+TEST_F(DynamicColorPaletteTest, anApplicationFollowsTheWishForContrast) {
+    const FollowedAppearance followed(platform.appearance);
+    const auto contrast = [] {
+        const QPalette palette = QApplication::palette();
+        return contrastRatio(palette.color(QPalette::WindowText), palette.color(QPalette::Window));
+    };
+    platform.appearance.setPrefersMoreContrast(true);
+    EXPECT_GE(contrast(), 20.0);
+    EXPECT_FALSE(isDarkPalette(QApplication::palette())) << "as the desktop has it";
+    platform.appearance.setScheme(Scheme::Dark);
+    EXPECT_GE(contrast(), 20.0);
+    EXPECT_TRUE(isDarkPalette(QApplication::palette()));
+    platform.appearance.setPrefersMoreContrast(false);
+    EXPECT_LT(contrast(), 20.0);
+}
