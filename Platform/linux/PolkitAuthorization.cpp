@@ -155,8 +155,9 @@ PolkitAuthorizationReference::executeWithPrivileges(const PrivilegedCommand & /*
 
 // The tool writes lines like this program's own, with its own name and number.
 void PolkitAuthorizationReference::forwardLog() {
-    const QByteArray lines = m_process.readAllStandardError();
-    static_cast<void>(writeFully(STDERR_FILENO, {lines.data(), std::size_t(lines.size())}));
+    while (m_process.canReadLine() ||
+           (m_process.state() == QProcess::NotRunning && m_process.bytesAvailable() > 0))
+        m_log.passOn(m_process.readLine().toStdString());
 }
 
 ChildEnd PolkitAuthorizationReference::waitForChild() {

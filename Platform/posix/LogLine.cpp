@@ -93,7 +93,7 @@ std::string formatLogLine(std::chrono::system_clock::time_point time, std::strin
     return line;
 }
 
-void writeLogLine(std::string_view message) {
+std::string writeLogLine(std::string_view message) {
     const int saved = errno;
     std::string line = formatLogLine(std::chrono::system_clock::now(),
                                      program_invocation_short_name, ::getpid(), message);
@@ -102,6 +102,8 @@ void writeLogLine(std::string_view message) {
     static_cast<void>(
         retryInterrupted([&] { return ::write(STDERR_FILENO, line.data(), line.size()); }));
     errno = saved;
+    line.pop_back();
+    return line;
 }
 
 } // namespace zt

@@ -24,7 +24,7 @@ std::string formatLogLine(std::chrono::system_clock::time_point time, std::strin
 // Writes the message as one such line to the standard error stream, with the present time, this
 // program's name and its process id. The line goes out in one write, so that lines of several
 // threads and processes do not mix. A line that cannot be written is dropped. Leaves errno as it
-// is. Thread: any.
-void writeLogLine(std::string_view message);
+// is. Answers the line without its end. Thread: any.
+std::string writeLogLine(std::string_view message);
 
 } // namespace zt

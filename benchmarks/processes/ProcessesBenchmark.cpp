@@ -52,6 +52,8 @@ double milliseconds(Clock::duration duration) {
 class QuietLog final : public zt::Log {
 public:
     void writeLine(std::string_view /*message*/) override {}
+    void passOn(std::string_view /*lines*/) override {}
+    std::vector<std::string> recentLines() const override { return {}; }
 };
 
 // The services of this system, without log lines, and with a process manager that knows nothing

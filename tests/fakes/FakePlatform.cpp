@@ -13,6 +13,19 @@ void FakeLog::writeLine(std::string_view message) {
     m_lines << QString::fromUtf8(message.data(), static_cast<qsizetype>(message.size()));
 }
 
+void FakeLog::passOn(std::string_view lines) {
+    const std::scoped_lock lock(m_mutex);
+    m_lines << QString::fromUtf8(lines.data(), static_cast<qsizetype>(lines.size()))
+                   .split(u'\n', Qt::SkipEmptyParts);
+}
+
+std::vector<std::string> FakeLog::recentLines() const {
+    std::vector<std::string> recent;
+    for (const QString &line : lines())
+        recent.push_back(line.toStdString());
+    return recent;
+}
+
 QStringList FakeLog::lines() const {
     const std::scoped_lock lock(m_mutex);
     return m_lines;

@@ -45,6 +45,8 @@
 class FakeLog final : public zt::Log {
 public:
     void writeLine(std::string_view message) override;
+    void passOn(std::string_view lines) override;
+    std::vector<std::string> recentLines() const override;
     QStringList lines() const;
     void clear();
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Platform/posix/LogLine.h"
+#include "Platform/posix/RecentLines.h"
 #include "Platform/posix/SystemCalls.h"
 #include "tests/unit/copy/ScopedEnvironment.h"
 
@@ -106,3 +107,19 @@ TEST_F(LogLineTest, writingLeavesErrnoAsItIs) {
 
 } // namespace
 } // namespace zt
+
+TEST(RecentLinesTest, linesAreKeptInTheirOrder) {
+    zt::RecentLines lines(10);
+    EXPECT_TRUE(lines.lines().empty());
+    lines.add("one");
+    lines.add("two\nthree\n");
+    lines.add("");
+    lines.add("\nfour");
+    EXPECT_EQ(lines.lines(), (std::vector<std::string>{"one", "two", "three", "", "four"}));
+}
+
+TEST(RecentLinesTest, theOldestOfTooManyAreDropped) {
+    zt::RecentLines lines(2);
+    lines.add("one\ntwo\nthree");
+    EXPECT_EQ(lines.lines(), (std::vector<std::string>{"two", "three"}));
+}
