@@ -4,10 +4,9 @@
 #include "Installer/Sources/Installation.h"
 
 #include "Installer/Sources/InstallerArguments.h"
+#include "Installer/Sources/LocalizedString.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
-
-using namespace Qt::StringLiterals;
 
 Installation::Installation(const zt::Platform &platform) : m_platform(platform) {}
 
@@ -20,9 +19,9 @@ void Installation::extractArguments(const QStringList &argumentVector) {
 std::optional<QString> Installation::findProduct() {
     if (!InstallerArguments::completeSourcePath(m_arguments,
                                                 m_platform.bundles.mainBundle().path()))
-        return u"missing source path"_s;
+        return localizationKey("missing source path");
     if (!InstallerArguments::completeProductName(m_arguments))
-        return u"missing program name"_s;
+        return localizationKey("missing program name");
     m_product = m_platform.bundles.bundleAtPath(sourcePath());
     return std::nullopt;
 }
@@ -34,7 +33,7 @@ std::optional<QString> Installation::completeArguments() {
                       .applicationsDirectory = [this] { return applicationsDirectory(); }});
     InstallerArguments::completeDocumentation(m_arguments);
     if (!InstallerArguments::completeProductCodes(m_arguments, m_product))
-        return u"missing product signature"_s;
+        return localizationKey("missing product signature");
     InstallerArguments::completeQuitCodes(m_arguments);
     return std::nullopt;
 }

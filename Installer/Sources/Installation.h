@@ -7,7 +7,9 @@
 // meanwhile, and the copy itself.
 
 #include "Installer/Sources/Forecast.h"
+#include "Installer/Sources/LocalizedString.h"
 #include "Platform/Bundles.h"
+#include "Platform/Interruptions.h"
 #include "Platform/Platform.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
 
@@ -15,6 +17,7 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <memory>
 #include <optional>
 #include <stop_token>
 
@@ -125,13 +128,14 @@ protected:
     // Copies with the rights that this process has. The key of a message on failure.
     std::optional<QString> copyDirectly(const std::stop_token &stop, zt::CopiedRights rights);
     static inline const QString stoppedMessageKey =
-        QStringLiteral("The installation was stopped."); // when that is why it did not succeed
+        localizationKey("The installation was stopped."); // when that is why it did not succeed
     void registerProduct() const;
     // The message under the key, with what the user can do now.
     QString failureMessage(const QString &messageKey) const;
 
 private:
     void handOver(const std::stop_token &stop);
+    std::unique_ptr<zt::InterruptionHold> holdOffInterruptions() const;
     bool hasIcon(const QString &path, const std::stop_token &stop);
 
     const zt::Platform &m_platform;

@@ -61,7 +61,7 @@ std::optional<QString> Installation::installMyselfInDestination(const std::stop_
                 return QString();
             }
             ZTLog("ERROR -- Could not copy myself to /Applications with authorization");
-            return u"Authorized copying failed."_s;
+            return localizationKey("Authorized copying failed.");
         }
     }
     handOver(stop);
@@ -85,6 +85,7 @@ std::optional<QString> Installation::copyDirectly(const std::stop_token &stop,
         paths.wrapper = bytes(ZTInstallerKeyWrapperPath);
     const QFileInfo earlierCopy(destinationPath());
     m_hadEarlierCopy = earlierCopy.exists() || earlierCopy.isSymLink();
+    const auto hold = holdOffInterruptions();
     const std::stop_callback passOn(stop, [this] { m_copyStop.request_stop(); });
     const InstallResult result = InstallApplication(
         paths, {.trash = m_platform.trash,
@@ -105,13 +106,13 @@ std::optional<QString> Installation::copyDirectly(const std::stop_token &stop,
     case InstallResult::Success:
         return std::nullopt;
     case InstallResult::TrashFailed:
-        return u"Could not delete existing copy."_s;
+        return localizationKey("Could not delete existing copy.");
     case InstallResult::CopyFailed:
         break;
     }
     if (m_copyStop.stop_requested())
         return stoppedMessageKey;
-    return u"Installation failed."_s;
+    return localizationKey("Installation failed.");
 }
 
 void Installation::stopCopying() {
@@ -145,7 +146,13 @@ bool Installation::authorizedInstall(const QString &source, const QString &to,
         return false;
     }
     onMainThread([this] { animateProgress(Progress::Running); });
+    const auto hold = holdOffInterruptions();
     return AuthorizedExecute(*authorization, command) == 0;
+}
+
+std::unique_ptr<zt::InterruptionHold> Installation::holdOffInterruptions() const {
+    return m_platform.interruptions.holdOff(
+        ZTFormat(localizedString("%@ is being installed."), productName()));
 }
 
 // Whether the desktop has an icon for the item. Icons belong to the main thread.

@@ -8,3 +8,7 @@
 QString localizedString(const char *key) {
     return QCoreApplication::translate("InstallerWindow", key);
 }
+
+QString localizationKey(const char *key) {
+    return QString::fromUtf8(key);
+}

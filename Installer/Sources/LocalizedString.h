@@ -10,3 +10,6 @@
 // The text in the user's language; the English text is the key, and the answer where there is no
 // translation. Thread: any.
 QString localizedString(const char *key);
+
+// The key as it is, for localizedString() to be asked for it later.
+QString localizationKey(const char *key);

@@ -45,6 +45,8 @@ TEST_F(AuthorizedInstallTest, theOptionKeyForcesTheToolAlsoWhereThisUserMayWrite
     EXPECT_EQ(command.input, (product + u" at "_s + destination()).toUtf8());
     EXPECT_EQ(text("introField"), u"Demo was successfully installed."_s);
     EXPECT_FALSE(QFileInfo::exists(destination())); // which is the tool's to copy
+    EXPECT_EQ(platform.interruptions.reasons(), QStringList{u"Demo is being installed."_s});
+    EXPECT_TRUE(platform.interruptions.held().isEmpty());
 }
 
 TEST_F(AuthorizedInstallTest, withoutTheKeyNobodyIsAsked) {

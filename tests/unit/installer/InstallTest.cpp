@@ -43,6 +43,17 @@ TEST_F(InstallTest, anEarlierCopyGoesToTheTrash) {
     EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
 }
 
+TEST_F(InstallTest, interruptionsAreHeldOffWhileTheProductIsCopied) {
+    makeFile(u"Applications/Demo.app/old"_s, "old");
+    QStringList heldMeanwhile;
+    platform.trash.whenAsked = [&] { heldMeanwhile = platform.interruptions.held(); };
+    start();
+    EXPECT_TRUE(platform.interruptions.held().isEmpty());
+    install();
+    EXPECT_EQ(heldMeanwhile, QStringList{u"Demo is being installed."_s});
+    EXPECT_TRUE(platform.interruptions.held().isEmpty());
+}
+
 TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns) {
     start();
     pressInstall();
