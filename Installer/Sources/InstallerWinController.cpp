@@ -55,6 +55,8 @@ InstallerWinController::InstallerWinController(Environment environment)
             &InstallerWinController::openDocumentation);
     connect(m_ui.readMeTextView, &QTextBrowser::anchorClicked, this,
             [this](const QUrl &link) { platform().workspace.openUrl(link); });
+    connect(m_ui.logButton, &QPushButton::clicked, this, &InstallerWinController::showLog);
+    m_window.installEventFilter(this);
     auto *escape = new QShortcut(Qt::Key_Escape, &m_window);
     connect(escape, &QShortcut::activated, this, [this] {
         (m_ui.stopButton->isVisible() ? m_ui.stopButton : m_ui.cancelButton)->click();
@@ -78,6 +80,7 @@ void InstallerWinController::selectTab(int pageIndex) {
 void InstallerWinController::showSetupError(const QString &message) {
     ZTLog("%@", message);
     showFinalMessage(message.toUtf8().constData());
+    m_ui.logButton->show();
     // The title is still the format with its placeholder when the product has no name yet.
     if (m_window.windowTitle().contains(u'%'))
         m_window.setWindowTitle({});

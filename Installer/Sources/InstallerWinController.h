@@ -9,12 +9,14 @@
 #include "Installer/Sources/HeldKeys.h"
 #include "Installer/Sources/Installation.h"
 #include "ZTStuff/CocoaExtensions/FollowedAppearance.h"
+#include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 #include "ui_InstallerWindow.h"
 
 #include <QDialog>
 #include <QObject>
 #include <QStringList>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -68,6 +70,8 @@ public:
     void install();
     void cancel();
     void openDocumentation();
+    // Shows the log of this run in a window of its own.
+    void showLog();
 
     void animateProgress(Progress progress) override;
 
@@ -83,16 +87,29 @@ public:
     // for it. Silent when anything about sound is missing.
     void playDoneSound();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     // Start-up, step by step.
     void fillIcon();
     void fillTexts();
     void fillReadMe();
     void showWindow();
+    // Makes the window taller when the main page needs it, as far as the screen allows.
+    void growToFit();
+    int fittingHeight(int width) const;
     void showSystemVersionAlert();
 
     // The installation, from its first step to its outcome. Thread: install.
     void installThread(const std::stop_token &stop);
+
+    // What would happen, told from the first painting of the window until Install is pressed. It is
+    // found out beside the main thread, and again whenever it may have changed.
+    void beginForecasting();
+    void endForecasting();
+    void refreshForecast();
+    void showForecast(const Forecast &found);
 
     bool wantsDoneSound() const;
     void showCopyProgress(const zt::CopyProgress &progress) override;
@@ -106,5 +123,12 @@ private:
     Ui::InstallerWindow m_ui;
     bool m_finished = false;
     HeldKeys m_heldKeys;
+    bool m_wasPainted = false;
+    bool m_isForecasting = false;
+    bool m_forecastIsUnderWay = false;
+    bool m_forecastIsStale = false;
+    std::int32_t m_launchEndCount = 0;
+    NotificationCenter::Observation m_processObservation;
+    std::jthread m_forecastThread;
     std::jthread m_installThread;
 };

@@ -5,7 +5,9 @@
 
 #include "Installer/Sources/IconFile.h"
 #include "Installer/Sources/LocalizedString.h"
+#include "Installer/Sources/LogWindow.h"
 #include "Platform/Clock.h"
+#include "Platform/Log.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/Workspace.h"
 #include "ZTStuff/CocoaExtensions/SoundExtensions.h"
@@ -31,6 +33,7 @@ void InstallerWinController::installationFinished(const std::optional<QString> &
     if (message) {
         m_ui.messageField->setText(*message);
         m_ui.messageField->setVisible(!message->isEmpty());
+        m_ui.logButton->setVisible(!message->isEmpty());
         m_ui.cancelButton->setEnabled(true);
         if (!message->isEmpty())
             announce(m_ui.messageField);
@@ -71,6 +74,7 @@ void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.explanationField->hide();
     m_ui.messageField->hide();
     m_ui.helpButton->hide();
+    m_ui.logButton->hide();
     m_ui.introField->setText(ZTFormat(localizedString(messageKey), productName()));
     m_finished = true;
     announce(m_ui.introField);
@@ -98,4 +102,13 @@ void InstallerWinController::openDocumentation() {
         return;
     }
     platform().workspace.openFile(*path);
+}
+
+void InstallerWinController::showLog() {
+    QStringList lines;
+    for (const std::string &line : platform().log.recentLines())
+        lines << QString::fromUtf8(line.data(), static_cast<qsizetype>(line.size()));
+    auto *log = new LogWindow(lines.join(u'\n'), &m_window);
+    log->setAttribute(Qt::WA_DeleteOnClose);
+    log->open();
 }

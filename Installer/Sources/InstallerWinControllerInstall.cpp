@@ -24,6 +24,8 @@ void InstallerWinController::install() {
     }
     setForcesAuthorization(m_heldKeys.optionWasHeld());
     forgetStop();
+    endForecasting();
+    m_ui.logButton->hide();
     m_ui.stopButton->setEnabled(true);
     m_ui.installButton->setEnabled(false);
     m_ui.cancelButton->setEnabled(false);

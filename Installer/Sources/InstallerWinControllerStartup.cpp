@@ -131,14 +131,8 @@ void InstallerWinController::showWindow() {
     const QRect available = screen->availableGeometry();
     // Long texts and large fonts make the window taller, as far as the screen allows.
     const int width = std::min(m_window.width(), available.width());
-    const int contents = m_ui.mainContents->layout()->totalHeightForWidth(
-        width - m_window.layout()->contentsMargins().left() -
-        m_window.layout()->contentsMargins().right());
-    const int others = m_window.layout()->sizeHint().height() - m_ui.tabView->sizeHint().height() +
-                       m_ui.progressIndicator->sizeHint().height() +
-                       2 * m_ui.mainPageLayout->spacing();
-    const int height = std::min(std::max(m_window.height(), contents + others), available.height());
-    m_window.resize(width, height);
+    const int height = std::max(m_window.height(), fittingHeight(width));
+    m_window.resize(width, std::min(height, available.height()));
     m_window.move(available.center() - m_window.rect().center());
     m_ui.installButton->setFocus();
     m_window.show();
@@ -148,6 +142,25 @@ void InstallerWinController::showWindow() {
         if (const auto self = ZTProcess::currentProcess())
             self->setFrontProcess();
     });
+}
+
+// The height at which all of the main page is seen.
+int InstallerWinController::fittingHeight(int width) const {
+    const QMargins margins = m_window.layout()->contentsMargins();
+    const int contents =
+        m_ui.mainContents->layout()->totalHeightForWidth(width - margins.left() - margins.right());
+    const int others = m_window.layout()->sizeHint().height() - m_ui.tabView->sizeHint().height() +
+                       m_ui.progressIndicator->sizeHint().height() +
+                       2 * m_ui.mainPageLayout->spacing();
+    return contents + others;
+}
+
+void InstallerWinController::growToFit() {
+    const int bottom = m_window.screen()->availableGeometry().bottom();
+    const int room = bottom - m_window.frameGeometry().bottom();
+    const int missing = fittingHeight(m_window.width()) - m_window.height();
+    if (missing > 0 && room > 0)
+        m_window.resize(m_window.width(), m_window.height() + std::min(missing, room));
 }
 
 void InstallerWinController::showSystemVersionAlert() {

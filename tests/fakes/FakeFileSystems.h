@@ -9,6 +9,8 @@
 
 #include <QMap>
 
+#include <atomic>
+
 // Knows the items that the test puts in.
 class FakeFileSystems final : public zt::FileSystems {
 public:
@@ -20,6 +22,7 @@ public:
     }
 
     zt::Result<std::uint64_t> availableBytesFor(const QString &path) const override {
+        ++spaceQuestions;
         const auto found = availableBytes.constFind(path);
         if (found == availableBytes.cend())
             return zt::Error::fromErrno("statvfs", path.toStdString(), ENOENT);
@@ -28,4 +31,5 @@ public:
 
     QMap<QString, QString> typeNames;            // by path
     QMap<QString, std::uint64_t> availableBytes; // by path
+    mutable std::atomic<int> spaceQuestions = 0; // how often somebody asked for them
 };

@@ -36,6 +36,8 @@ protected:
         return *m_controller;
     }
 
+    void close() { m_controller.reset(); }
+
     template <typename View = QLabel>
     View *field(const char *name) {
         auto *view = m_controller->window().findChild<View *>(QString::fromLatin1(name));
