@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "ZTStuff/CocoaExtensions/ColorContrast.h"
 #include "ZTStuff/CocoaExtensions/DynamicColorPalette.h"
 
 #include "ZTStuff/CocoaExtensions/FollowedAppearance.h"
