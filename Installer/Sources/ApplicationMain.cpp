@@ -6,6 +6,7 @@
 #include "Installer/Sources/InstallerWinController.h"
 #include "Installer/Sources/LogRedirection.h"
 #include "Installer/Sources/RunMode.h"
+#include "Installer/Sources/Translations.h"
 #include "Installer/Sources/UnattendedMain.h"
 #include "Platform/NativePlatform.h"
 
@@ -42,6 +43,7 @@ int applicationMain(int argumentCount, char **argumentVector) {
 
     const zt::NativePlatform native(arguments);
     const zt::ScopedPlatform current(native.services());
+    const Translations translations(native.services());
     preparation.join(); // or else the first text would do all of it once more
     InstallerWinController controller({.platform = native.services(),
                                        .argumentVector = arguments,

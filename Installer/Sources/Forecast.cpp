@@ -52,28 +52,19 @@ ForecastLine runningCopyLine(const Forecast::RunningCopy &copy) {
     return {Kind::Notice, ZTFormat(localizedString("%@ is running and will be quit."), copy.name)};
 }
 
-ForecastLine existingCopyLine(const Forecast &forecast) {
-    const Forecast::ExistingCopy &copy = *forecast.existingCopy;
-    if (!copy.version) {
+ForecastLine existingCopyLine(const Forecast::ExistingCopy &copy) {
+    if (!copy.version)
         return {Kind::Notice, localizedString("The copy that is there now is moved to the Trash.")};
-    }
-    const auto text = [&copy](const char *key) {
-        return ZTFormat(localizedString(key), *copy.version);
-    };
-    if (!copy.ordering)
-        return {Kind::Notice, text("Version %@, which is there now, is moved to the Trash.")};
-    switch (*copy.ordering) {
-    case Ordering::Same:
-        return {Kind::Notice,
-                text("The same version, %@, is there now and is moved to the Trash.")};
-    case Ordering::Descending:
-        return {Kind::Problem,
-                text("A newer version, %@, is there now. Install only if you want the older one "
-                     "back.")};
-    case Ordering::Ascending:
-        break;
-    }
-    return {Kind::Notice, text("The older version %@, which is there now, is moved to the Trash.")};
+    QString text = localizedString("Version %@, which is there now, is moved to the Trash.");
+    if (copy.ordering == Ordering::Ascending)
+        text = localizedString("The older version %@, which is there now, is moved to the Trash.");
+    if (copy.ordering == Ordering::Same)
+        text = localizedString("The same version, %@, is there now and is moved to the Trash.");
+    if (copy.ordering == Ordering::Descending)
+        text = localizedString("A newer version, %@, is there now. Install only if you want the "
+                               "older one back.");
+    const bool isNewer = copy.ordering == Ordering::Descending;
+    return {isNewer ? Kind::Problem : Kind::Notice, ZTFormat(text, *copy.version)};
 }
 
 } // namespace
@@ -87,7 +78,7 @@ QList<ForecastLine> forecastLines(const Forecast &forecast) {
     if (forecast.systemTooOld)
         add(systemLine(forecast));
     if (forecast.existingCopy)
-        add(existingCopyLine(forecast));
+        add(existingCopyLine(*forecast.existingCopy));
     for (const Forecast::RunningCopy &copy : forecast.runningCopies)
         add(runningCopyLine(copy));
     if (forecast.space.needed)

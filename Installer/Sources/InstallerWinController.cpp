@@ -72,9 +72,11 @@ bool InstallerWinController::applicationShouldTerminateAfterLastWindowClosed() c
 void InstallerWinController::selectTab(int pageIndex) {
     m_ui.tabView->setCurrentIndex(pageIndex);
     const bool mainPage = pageIndex != ReadMePage;
-    m_ui.installButton->setText(localizedString(mainPage ? "Install" : "Continue"));
+    m_ui.installButton->setText(mainPage ? localizedString("Install")
+                                         : localizedString("Continue"));
     if (arguments().contains(ZTInstallerKeyReadMePath))
-        m_ui.cancelButton->setText(localizedString(mainPage ? "Go Back" : "Cancel"));
+        m_ui.cancelButton->setText(mainPage ? localizedString("Go Back")
+                                            : localizedString("Cancel"));
 }
 
 void InstallerWinController::showSetupError(const QString &message) {

@@ -5,6 +5,7 @@
 
 #include "Installer/Sources/ForecastReport.h"
 #include "Installer/Sources/LogRedirection.h"
+#include "Installer/Sources/Translations.h"
 #include "Installer/Sources/UnattendedInstallation.h"
 #include "Installer/train/CleanProcess.h"
 #include "Installer/train/SystemRegistration.h"
@@ -147,6 +148,7 @@ int runWithoutWindow(const RunChoice &choice, const QStringList &arguments) {
     QGuiApplication::setApplicationName(QStringLiteral("VelmoraInstaller"));
     const zt::NativePlatform native(arguments);
     const zt::ScopedPlatform current(native.services());
+    const Translations translations(native.services());
     if (!isLogged)
         ZTLog("direct invocation");
     UnattendedInstallation installation(environmentFor(arguments, native.services(), streams));
