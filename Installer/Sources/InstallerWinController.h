@@ -123,7 +123,6 @@ private:
     Ui::InstallerWindow m_ui;
     bool m_finished = false;
     HeldKeys m_heldKeys;
-    bool m_wasPainted = false;
     bool m_isForecasting = false;
     bool m_forecastIsUnderWay = false;
     bool m_forecastIsStale = false;

@@ -12,16 +12,8 @@
 #include <algorithm>
 
 bool InstallerWinController::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == &m_window) {
-        // The window does not wait for any of this: it begins once that is painted.
-        if (event->type() == QEvent::Paint && !m_wasPainted) {
-            m_wasPainted = true;
-            QMetaObject::invokeMethod(
-                this, [this] { beginForecasting(); }, Qt::QueuedConnection);
-        } else if (event->type() == QEvent::WindowActivate) {
-            refreshForecast();
-        }
-    }
+    if (watched == &m_window && event->type() == QEvent::WindowActivate)
+        refreshForecast();
     return QObject::eventFilter(watched, event);
 }
 

@@ -138,9 +138,11 @@ void InstallerWinController::showWindow() {
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
-    callAfterFirstPaint(m_window, [] {
+    // The window does not wait for any of this.
+    callAfterFirstPaint(m_window, [this] {
         if (const auto self = ZTProcess::currentProcess())
             self->setFrontProcess();
+        beginForecasting();
     });
 }
 
