@@ -83,7 +83,8 @@ public:
                      .menuBarEvents = native.menuBarEvents,
                      .pasteboard = native.pasteboard,
                      .userInput = native.userInput,
-                     .fileSystems = native.fileSystems}
+                     .fileSystems = native.fileSystems,
+                     .interruptions = native.interruptions}
         , m_current(m_services) {
         ZTProcess::platformChanged();
     }
