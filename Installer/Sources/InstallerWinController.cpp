@@ -3,22 +3,27 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "Installer/Sources/Announcement.h"
 #include "Installer/Sources/LocalizedString.h"
 #include "Platform/Workspace.h"
 #include "ZTStuff/CocoaExtensions/DynamicColorPalette.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QShortcut>
 #include <QTabBar>
+
+#include <algorithm>
 
 InstallerWinController::InstallerWinController(Environment environment)
     : Installation(environment.platform)
     , m_environment(std::move(environment))
     , m_followedAppearance(platform().appearance) {
+    prepareAnnouncements();
     m_ui.setupUi(&m_window);
+    m_ui.pathField->setTextDirection(Qt::LeftToRight);
+    m_ui.helpButton->setShortcut(QKeySequence::HelpContents);
     followDynamicColor(*m_ui.messageField, QPalette::WindowText,
                        ZTDynamicColor::redWarningTextColor());
     m_window.setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -59,7 +64,8 @@ InstallerWinController::InstallerWinController(Environment environment)
     m_window.installEventFilter(this);
     auto *escape = new QShortcut(Qt::Key_Escape, &m_window);
     connect(escape, &QShortcut::activated, this, [this] {
-        (m_ui.stopButton->isVisible() ? m_ui.stopButton : m_ui.cancelButton)->click();
+        QPushButton *const wayBack = m_finished ? m_ui.installButton : m_ui.cancelButton;
+        (m_ui.stopButton->isVisible() ? m_ui.stopButton : wayBack)->click();
     });
 }
 
@@ -74,9 +80,14 @@ void InstallerWinController::selectTab(int pageIndex) {
     const bool mainPage = pageIndex != ReadMePage;
     m_ui.installButton->setText(mainPage ? localizedString("Install")
                                          : localizedString("Continue"));
-    if (arguments().contains(ZTInstallerKeyReadMePath))
+    const bool hasReadMe = arguments().contains(ZTInstallerKeyReadMePath);
+    if (hasReadMe)
         m_ui.cancelButton->setText(mainPage ? localizedString("Go Back")
                                             : localizedString("Cancel"));
+    m_ui.cancelButton->setAccessibleDescription(mainPage && hasReadMe
+                                                    ? localizedString("Returns to the read-me.")
+                                                    : localizedString("Quits without installing."));
+    assignShortcuts();
 }
 
 void InstallerWinController::showSetupError(const QString &message) {
@@ -89,7 +100,21 @@ void InstallerWinController::showSetupError(const QString &message) {
     showWindow();
 }
 
-void InstallerWinController::announce(QWidget *field) {
-    QAccessibleEvent event(field, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+void InstallerWinController::assignShortcuts() {
+    constexpr char16_t firstIdeograph = 0x2E80; // nothing from here on is on a key
+    QString taken;
+    for (QPushButton *button :
+         {m_ui.installButton, m_ui.cancelButton, m_ui.stopButton, m_ui.logButton}) {
+        const QString title = button->text().toUpper();
+        const auto *letter = std::ranges::find_if(title, [&taken](QChar character) {
+            return character.isLetter() && character.unicode() < firstIdeograph &&
+                   !taken.contains(character);
+        });
+        if (letter == title.cend()) {
+            button->setShortcut({});
+            continue;
+        }
+        taken += *letter;
+        button->setShortcut(QKeySequence(Qt::ALT | Qt::Key(letter->unicode())));
+    }
 }

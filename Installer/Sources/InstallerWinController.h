@@ -91,6 +91,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    // A key for each button: Option with the first letter of its title that no other button has.
+    void assignShortcuts();
+
     // Start-up, step by step.
     void fillIcon();
     void fillTexts();
@@ -115,7 +118,6 @@ private:
     void showCopyProgress(const zt::CopyProgress &progress) override;
     void hideCopyProgress() override;
     void applyTimedQuit();
-    void announce(QWidget *field);
 
     Environment m_environment;
     FollowedAppearance m_followedAppearance; // before the window, which is made in it

@@ -3,6 +3,7 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "Installer/Sources/Announcement.h"
 #include "Installer/Sources/IconFile.h"
 #include "Installer/Sources/LocalizedString.h"
 #include "Installer/Sources/LogWindow.h"
@@ -36,7 +37,7 @@ void InstallerWinController::installationFinished(const std::optional<QString> &
         m_ui.logButton->setVisible(!message->isEmpty());
         m_ui.cancelButton->setEnabled(true);
         if (!message->isEmpty())
-            announce(m_ui.messageField);
+            announce(*m_ui.messageField);
     } else {
         showFinalMessage("%@ was successfully installed.");
         if (const auto path =
@@ -51,6 +52,7 @@ void InstallerWinController::installationFinished(const std::optional<QString> &
     m_ui.installButton->setEnabled(true);
     m_ui.installButton->setFocus();
     animateProgress(Progress::Stopped);
+    growToFit();
     applyTimedQuit();
 }
 
@@ -70,6 +72,7 @@ void InstallerWinController::applyTimedQuit() {
 void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.cancelButton->hide();
     m_ui.installButton->setText(localizedString("OK"));
+    m_ui.installButton->setAccessibleDescription({});
     m_ui.pathField->hide();
     m_ui.explanationField->hide();
     m_ui.messageField->hide();
@@ -77,7 +80,8 @@ void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.logButton->hide();
     m_ui.introField->setText(ZTFormat(localizedString(messageKey), productName()));
     m_finished = true;
-    announce(m_ui.introField);
+    announce(*m_ui.introField);
+    assignShortcuts();
 }
 
 bool InstallerWinController::wantsDoneSound() const {

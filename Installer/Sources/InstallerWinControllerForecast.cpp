@@ -5,6 +5,7 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "Installer/Sources/Announcement.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <QEvent>
@@ -74,6 +75,6 @@ void InstallerWinController::showForecast(const Forecast &found) {
     // Read out when the button gets the focus; only what wants something done interrupts.
     m_ui.installButton->setAccessibleDescription(texts.join(u' '));
     if (!lines.isEmpty() && lines.first().kind == ForecastLine::Kind::Problem)
-        announce(m_ui.forecastField);
+        announce(*m_ui.forecastField, texts.join(u' '));
     growToFit();
 }

@@ -3,6 +3,7 @@
 
 #include "Installer/Sources/InstallerWinController.h"
 
+#include "Installer/Sources/Announcement.h"
 #include "Installer/Sources/LocalizedString.h"
 #include "Platform/Sounds.h"
 #include "Platform/UserDefaults.h"
@@ -20,6 +21,7 @@ void InstallerWinController::install() {
     }
     if (m_ui.tabView->currentIndex() == ReadMePage) {
         selectTab(MainPage);
+        announce(*m_ui.introField);
         return;
     }
     setForcesAuthorization(m_heldKeys.optionWasHeld());
@@ -27,6 +29,7 @@ void InstallerWinController::install() {
     endForecasting();
     m_ui.logButton->hide();
     m_ui.stopButton->setEnabled(true);
+    announce(*m_ui.introField, ZTFormat(localizedString("%@ is being installed."), productName()));
     m_ui.installButton->setEnabled(false);
     m_ui.cancelButton->setEnabled(false);
     // While the product is copied the sound server is found, so that the end does not wait for it.

@@ -30,6 +30,7 @@ LogWindow::LogWindow(const QString &text, QWidget *parent) : QDialog(parent) {
     auto *copy = buttons->addButton(localizedString("Copy"), QDialogButtonBox::ActionRole);
     auto *close = buttons->addButton(localizedString("Close"), QDialogButtonBox::RejectRole);
     copy->setObjectName(QStringLiteral("copyLogButton"));
+    copy->setAccessibleDescription(localizedString("Copies all lines."));
     close->setDefault(true);
     connect(copy, &QPushButton::clicked, this,
             [text] { QGuiApplication::clipboard()->setText(text); });

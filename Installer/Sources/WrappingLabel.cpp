@@ -26,6 +26,11 @@ WrappingLabel::WrappingLabel(QWidget *parent) : QLabel(parent) {
     setSizePolicy(policy);
 }
 
+void WrappingLabel::setTextDirection(Qt::LayoutDirection direction) {
+    m_textDirection = direction;
+    update();
+}
+
 int WrappingLabel::heightForWidth(int width) const {
     QTextLayout layout(displayedText(), font());
     const QMargins margins = contentsMargins();
@@ -63,7 +68,7 @@ void WrappingLabel::paintEvent(QPaintEvent *) {
 qreal WrappingLabel::layOut(QTextLayout &layout, int width) const {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(layoutDirection());
+    option.setTextDirection(m_textDirection.value_or(layoutDirection()));
     option.setAlignment(QStyle::visualAlignment(layoutDirection(), alignment()));
     layout.setTextOption(option);
     layout.setCacheEnabled(true);

@@ -8,6 +8,8 @@
 
 #include <QLabel>
 
+#include <optional>
+
 class QTextLayout;
 
 class WrappingLabel final : public QLabel {
@@ -15,6 +17,10 @@ class WrappingLabel final : public QLabel {
 
 public:
     explicit WrappingLabel(QWidget *parent = nullptr);
+
+    // The direction in which the text reads, where it is not that of the window: paths read from
+    // left to right everywhere.
+    void setTextDirection(Qt::LayoutDirection direction);
 
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
@@ -28,4 +34,6 @@ private:
     // Breaks the text into lines of the width; answers their height altogether.
     qreal layOut(QTextLayout &layout, int width) const;
     QString displayedText() const;
+
+    std::optional<Qt::LayoutDirection> m_textDirection;
 };

@@ -130,6 +130,14 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
+        <source>Returns to the read-me.</source>
+        <translation>Kehrt zur Lies-mich-Datei zurück.</translation>
+    </message>
+    <message>
+        <source>Quits without installing.</source>
+        <translation>Beendet das Programm, ohne zu installieren.</translation>
+    </message>
+    <message>
         <source>%@ was successfully installed.</source>
         <translation>%@ wurde erfolgreich installiert.</translation>
     </message>
@@ -178,6 +186,10 @@
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Copies all lines.</source>
+        <translation>Kopiert alle Zeilen.</translation>
     </message>
     <message>
         <source>Copying %1$@: %2$d %%</source>
