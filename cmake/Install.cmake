@@ -1,12 +1,13 @@
-# What "cmake --install" puts in place: the installer's bundle, what the password dialog says for it,
-# the utility library with its headers and its helper, and the files through which
-# find_package(ZTStuff) finds it.
+# What "cmake --install" puts in place. The component "installer": its bundle, what the password
+# dialog says for it, its command and manual page. The component "library": the utility library with
+# its headers and its helper, and the files through which find_package(ZTStuff) finds it.
 
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY "${PROJECT_BINARY_DIR}/VelmoraInstaller.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/velmora-installer
-    USE_SOURCE_PERMISSIONS)
+    USE_SOURCE_PERMISSIONS
+    COMPONENT installer)
 
 # The command of that name, and its manual page.
 file(RELATIVE_PATH installerFromCommand "/${CMAKE_INSTALL_BINDIR}"
@@ -14,13 +15,15 @@ file(RELATIVE_PATH installerFromCommand "/${CMAKE_INSTALL_BINDIR}"
 set(installerCommand "${PROJECT_BINARY_DIR}/installed-command/VelmoraInstaller")
 file(MAKE_DIRECTORY "${PROJECT_BINARY_DIR}/installed-command")
 file(CREATE_LINK "${installerFromCommand}" "${installerCommand}" SYMBOLIC)
-install(FILES "${installerCommand}" DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES docs/man/VelmoraInstaller.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES "${installerCommand}" DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT installer)
+install(FILES docs/man/VelmoraInstaller.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT installer)
 
 # The helper that a program which uses ZTUtilities::launchMicro() keeps among its resources.
 install(DIRECTORY "${PROJECT_BINARY_DIR}/Micro.app"
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff
-    USE_SOURCE_PERMISSIONS)
+    USE_SOURCE_PERMISSIONS
+    COMPONENT library)
 
 # What the password dialog says. It names the tool by its path, which is known only now; an
 # administrator's system finds it when the prefix is /usr.
@@ -30,15 +33,18 @@ set(trainInPrefix
 install(CODE "
     set(trainPath \"\${CMAKE_INSTALL_PREFIX}/${trainInPrefix}\")
     configure_file(\"${PROJECT_SOURCE_DIR}/Installer/Resources/${policyName}.in\"
-        \"${PROJECT_BINARY_DIR}/${policyName}\" @ONLY)")
+        \"${PROJECT_BINARY_DIR}/${policyName}\" @ONLY)"
+    COMPONENT installer)
 install(FILES "${PROJECT_BINARY_DIR}/${policyName}"
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/polkit-1/actions)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/polkit-1/actions
+    COMPONENT installer)
 
 set(headerFolder ${CMAKE_INSTALL_INCLUDEDIR}/ztstuff)
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/ZTStuff)
 # The headers of the one back end and of the system calls below it are no interface.
 install(DIRECTORY ZTStuff Platform
     DESTINATION ${headerFolder}
+    COMPONENT library
     FILES_MATCHING PATTERN "*.h" PATTERN "Platform/linux" EXCLUDE PATTERN "Platform/posix" EXCLUDE)
 
 # velmora_collect_libraries(<variable> <library>)
@@ -73,9 +79,10 @@ function(velmora_install_component component library)
         target_compile_features(${installed} INTERFACE cxx_std_20)
     endforeach()
     install(TARGETS ${libraries} EXPORT ZTStuff-${component}
-        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}/ztstuff COMPONENT library
         INCLUDES DESTINATION ${headerFolder})
-    install(EXPORT ZTStuff-${component} NAMESPACE ZTStuff:: DESTINATION ${packageFolder})
+    install(EXPORT ZTStuff-${component} NAMESPACE ZTStuff:: DESTINATION ${packageFolder}
+        COMPONENT library)
     set(${component}Libraries ${libraries} PARENT_SCOPE)
 endfunction()
 
@@ -91,4 +98,5 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZTStuffConfigVersion.cma
 install(FILES
     "${PROJECT_BINARY_DIR}/ZTStuffConfig.cmake"
     "${PROJECT_BINARY_DIR}/ZTStuffConfigVersion.cmake"
-    DESTINATION ${packageFolder})
+    DESTINATION ${packageFolder}
+    COMPONENT library)
