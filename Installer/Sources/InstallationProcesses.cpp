@@ -37,7 +37,7 @@ std::optional<QString> Installation::processToQuitStillRunning() const {
     for (const auto &process : ZTProcess::allProcesses()) {
         if (!signatureIsInArray(process->signature(), codes) || process->isEqual(self.get()))
             continue;
-        const auto name = process->name();
+        auto name = process->name();
         ZTLog("Still running '%@': %@", process->signatureString(), name);
         return name;
     }

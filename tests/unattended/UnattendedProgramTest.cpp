@@ -146,7 +146,7 @@ protected:
         EXPECT_TRUE(m_starter->waitForStarted());
     }
 
-    ~UnattendedWithObstinateCopyTest() override {
+    void TearDown() override {
         kill(-pid_t(m_starter->processId()), SIGKILL);
         m_starter->waitForFinished();
     }
