@@ -22,6 +22,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <csignal>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -66,8 +67,8 @@ struct Streams {
     zt::UniqueFd error = zt::duplicateOf(STDERR_FILENO);
 };
 
+// When nobody listens, the exit status still tells.
 void write(const zt::UniqueFd &stream, const QByteArray &bytes) {
-    // When nobody listens, the exit status still tells.
     static_cast<void>(zt::writeFully(stream.get(), bytes.toStdString()));
 }
 
@@ -122,6 +123,8 @@ int check(UnattendedInstallation &installation, RunMode form, const Streams &str
 } // namespace
 
 int runWithoutWindow(const RunChoice &choice, const QStringList &arguments) {
+    // A reader that goes away (as head does) must not end a copy half-way.
+    std::signal(SIGPIPE, SIG_IGN); // NOLINT(cert-err33-c): there is nothing to do when it fails
     const Streams streams;
     switch (choice.mode) {
     case RunMode::Help:

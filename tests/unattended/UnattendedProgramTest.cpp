@@ -44,7 +44,7 @@ TEST_F(UnattendedProgramTest, withoutADisplayTheProductIsInstalledAndRegistered)
     ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
     EXPECT_TRUE(entry.readAll().contains("TryExec=" + destination().toUtf8()));
     EXPECT_TRUE(log().contains("registered app: 0"));
-    EXPECT_FALSE(log().contains("launch"));
+    EXPECT_FALSE(log().contains("] launching "));
 }
 
 TEST_F(UnattendedProgramTest, anEarlierCopyGoesToTheTrash) {
@@ -53,6 +53,16 @@ TEST_F(UnattendedProgramTest, anEarlierCopyGoesToTheTrash) {
     EXPECT_EQ(run(unattended()).status, 0);
     EXPECT_TRUE(QFileInfo::exists(path(u"home/.local/share/Trash/files/Demo.app/old"_s)));
     EXPECT_FALSE(QFileInfo::exists(destination() + u"/old"_s));
+}
+
+TEST_F(UnattendedProgramTest, aReaderThatGoesAwayDoesNotEndTheCopy) {
+    handOver();
+    const auto process = installer(unattended());
+    process->start();
+    process->closeReadChannel(QProcess::StandardError);
+    process->closeReadChannel(QProcess::StandardOutput);
+    EXPECT_EQ(finish(*process).status, 0);
+    EXPECT_TRUE(QFileInfo::exists(destination() + u"/Contents/Linux/Demo"_s));
 }
 
 TEST_F(UnattendedProgramTest, onATerminalTheProgressIsOneLine) {
