@@ -40,4 +40,18 @@ QStringList Bundle::pathsForResources() const {
     return paths;
 }
 
+std::optional<Bundle> Bundles::bundleEnclosing(const QString &path) const {
+    if (path.isEmpty())
+        return std::nullopt;
+    QString candidate = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    while (candidate != u"/") {
+        if (candidate.endsWith(u".app", Qt::CaseInsensitive)) {
+            if (std::optional<Bundle> bundle = bundleAtPath(candidate))
+                return bundle;
+        }
+        candidate = QFileInfo(candidate).path();
+    }
+    return std::nullopt;
+}
+
 } // namespace zt

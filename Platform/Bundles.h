@@ -60,7 +60,7 @@ public:
 
     // The innermost bundle folder that encloses the path (a path ending in a bundle suffix on the
     // way upwards, the path itself included) and is a bundle. No value when there is none.
-    virtual std::optional<Bundle> bundleEnclosing(const QString &path) const = 0;
+    virtual std::optional<Bundle> bundleEnclosing(const QString &path) const;
 
 protected:
     Bundles() = default;

@@ -19,7 +19,7 @@ public:
     virtual ~FileSystems() = default;
 
     // The name that the system has for the type of file system that holds the item: "ext4",
-    // "tmpfs". An alias counts as what it leads to. Fails when there is no such item, or nothing is
+    // "apfs". An alias counts as what it leads to. Fails when there is no such item, or nothing is
     // known of its volume.
     virtual Result<QString> typeNameFor(const QString &path) const = 0;
 

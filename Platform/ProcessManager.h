@@ -64,7 +64,8 @@ public:
     // The process whose windows have the keyboard. Thread: any.
     virtual std::optional<ProcessSerialNumber> frontProcess() const = 0;
 
-    // The process that has the id now. Any process of the machine, application or not. Thread: any.
+    // The process that has the id now. Also one that is no application, where the system gives
+    // serial numbers to those. Thread: any.
     virtual std::optional<ProcessSerialNumber> processWithPid(std::int32_t pid) const = 0;
 
     // The process's id, as long as it runs; a process that has ended and is only waiting for its

@@ -18,8 +18,8 @@ public:
 
     // Moves the item at the absolute path (a file, a folder with all that is in it, or a symbolic
     // link itself) to the user's Trash, on the item's own volume, with a record of where it came
-    // from, so that the desktop can put it back. Answers the item's path in the Trash. On failure
-    // the item is where it was.
+    // from, so that the desktop can put it back. Answers the item's path in the Trash, empty
+    // where the system does not tell it. On failure the item is where it was.
     virtual Result<std::string> moveToTrash(const std::string &path) = 0;
 
     // The same for the item of this name in the open folder; `path` is its absolute path, for the

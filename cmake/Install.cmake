@@ -41,11 +41,12 @@ install(FILES "${PROJECT_BINARY_DIR}/${policyName}"
 
 set(headerFolder ${CMAKE_INSTALL_INCLUDEDIR}/ztstuff)
 set(packageFolder ${CMAKE_INSTALL_LIBDIR}/cmake/ZTStuff)
-# The headers of the one back end and of the system calls below it are no interface.
+# The headers of the back ends and of the system calls below them are no interface.
 install(DIRECTORY ZTStuff Platform
     DESTINATION ${headerFolder}
     COMPONENT library
-    FILES_MATCHING PATTERN "*.h" PATTERN "Platform/linux" EXCLUDE PATTERN "Platform/posix" EXCLUDE)
+    FILES_MATCHING PATTERN "*.h" PATTERN "Platform/linux" EXCLUDE PATTERN "Platform/macos" EXCLUDE
+        PATTERN "Platform/portable" EXCLUDE PATTERN "Platform/posix" EXCLUDE)
 
 # velmora_collect_libraries(<variable> <library>)
 # Adds to the list in the variable the library and all libraries of this project that it links.

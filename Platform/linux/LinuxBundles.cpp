@@ -109,18 +109,4 @@ const Bundle &LinuxBundles::mainBundle() const {
     return m_mainBundle;
 }
 
-std::optional<Bundle> LinuxBundles::bundleEnclosing(const QString &path) const {
-    if (path.isEmpty())
-        return std::nullopt;
-    QString candidate = cleanPath(path);
-    while (candidate != "/"_L1) {
-        if (candidate.endsWith(".app"_L1, Qt::CaseInsensitive)) {
-            if (std::optional<Bundle> bundle = bundleAtPath(candidate))
-                return bundle;
-        }
-        candidate = QFileInfo(candidate).path();
-    }
-    return std::nullopt;
-}
-
 } // namespace zt

@@ -25,7 +25,6 @@ public:
 
     std::optional<Bundle> bundleAtPath(const QString &path) const override;
     const Bundle &mainBundle() const override;
-    std::optional<Bundle> bundleEnclosing(const QString &path) const override;
 
 private:
     mutable RememberedPropertyLists m_dictionaries; // guards itself

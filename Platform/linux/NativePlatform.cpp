@@ -8,7 +8,6 @@
 #include "Platform/linux/BusApplicationEvents.h"
 #include "Platform/linux/BusInterruptions.h"
 #include "Platform/linux/DesktopWorkspace.h"
-#include "Platform/linux/EventLoopClock.h"
 #include "Platform/linux/FreedesktopTrash.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/LinuxSystemVersion.h"
@@ -27,6 +26,7 @@
 #include "Platform/linux/X11UserInput.h"
 #include "Platform/linux/X11WindowSystem.h"
 #include "Platform/linux/sound/PulseSounds.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include <QDir>
 #include <QStandardPaths>

@@ -71,6 +71,12 @@ void appendMessage(std::string &line, std::string_view message) {
 
 } // namespace
 
+std::string escapedLogMessage(std::string_view message) {
+    std::string line;
+    appendMessage(line, message);
+    return line;
+}
+
 std::string formatLogLine(std::chrono::system_clock::time_point time, std::string_view programName,
                           pid_t processId, std::string_view message) {
     // Rounded down, so that times before 1970 have a sensible number of milliseconds too.

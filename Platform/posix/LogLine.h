@@ -13,11 +13,14 @@
 
 namespace zt {
 
+// The message with control characters and line separators shown escaped ("\n", "\x1b", "\u2028"), so
+// that it can neither break a line nor steer a terminal. Bytes that are not UTF-8 pass as they are:
+// they may belong to a file's name. Thread: any.
+std::string escapedLogMessage(std::string_view message);
+
 // One event as one line, without the line end:
 //   "2026-11-21 01:35:52.123 VelmoraInstaller[1234] message"
-// The time is local. Control characters and line separators in the message are shown escaped ("\n",
-// "\x1b", "\u2028"), so that a message can neither break the line nor steer a terminal. Bytes that
-// are not UTF-8 pass as they are: they may belong to a file's name. Thread: any.
+// The time is local, the message escaped. Thread: any.
 std::string formatLogLine(std::chrono::system_clock::time_point time, std::string_view programName,
                           pid_t processId, std::string_view message);
 

@@ -3,8 +3,8 @@
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
+#include "Platform/FileAttributes.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/NumberReading.h"
-#include "ZTStuff/ZTClasses/ZTCompatibility/ResourceFork.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTFormat.h"
 
 #include <QStringList>
@@ -49,12 +49,9 @@ QString versionInResource(QByteArrayView resource) {
 std::optional<QString> ZTProcess::carbonVersion() const {
     const std::optional<QString> location =
         m_platform.processManager.bundleLocation(m_serialNumber);
-    const std::optional<QByteArray> fork =
-        location ? readResourceFork(*location) : std::optional<QByteArray>();
-    if (!fork)
-        return std::nullopt;
+    const std::optional<QByteArray> resource =
+        location ? zt::readFileResource(*location, fourCharCode("vers"), 1) : std::nullopt;
     constexpr qsizetype usedBytes = 4;
-    const auto resource = resourceInFork(*fork, fourCharCode("vers"), 1);
     if (!resource || resource->size() < usedBytes)
         return std::nullopt;
     return versionInResource(*resource);

@@ -3,22 +3,18 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/DeclaredEncoding.h"
 
-#include <QFile>
+#include "Platform/FileAttributes.h"
 
-#include <array>
-
-#include <sys/xattr.h>
+#include <QByteArray>
 
 std::optional<StringEncoding> declaredEncodingOfFile(const QString &path) {
-    const QByteArray nativePath = QFile::encodeName(path);
-    for (const char *const name : {"user.com.apple.TextEncoding", "user.charset"}) {
-        std::array<char, 256> value = {};
-        const ssize_t size = ::getxattr(nativePath.constData(), name, value.data(), value.size());
-        if (size <= 0)
+    constexpr qsizetype longestName = 256;
+    for (const QByteArray name : {"com.apple.TextEncoding", "charset"}) {
+        const std::optional<QByteArray> text = zt::readFileAttribute(path, name);
+        if (!text || text->size() > longestName)
             continue;
         // A number of the encoding may follow the name.
-        const QByteArray text = QByteArray(value.data(), static_cast<qsizetype>(size));
-        const QByteArray encoding = text.split(';').constFirst().trimmed();
+        const QByteArray encoding = text->split(';').constFirst().trimmed();
         if (const std::optional<StringEncoding> known = encodingWithIANAName(encoding))
             return known;
     }

@@ -4,7 +4,7 @@
 // Quitting real programs with real windows, on the real clock.
 
 #include "Platform/linux/BusApplicationEvents.h"
-#include "Platform/linux/EventLoopClock.h"
+#include "Platform/portable/EventLoopClock.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/PidfdRunningApplications.h"
 #include "Platform/linux/ProcProcessManager.h"

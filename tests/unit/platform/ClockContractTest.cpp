@@ -3,7 +3,7 @@
 
 // What every clock does, shown by the event loop's and by the fake.
 
-#include "Platform/linux/EventLoopClock.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include "tests/fakes/FakePlatform.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "ZTStuff/ZTClasses/ZTCompatibility/ResourceFork.h"
+#include "Platform/linux/ResourceFork.h"
 
 #include "tests/unit/process/ResourceForkMaker.h"
 #include "tests/unit/process/TestBundles.h"
@@ -28,7 +28,7 @@ QByteArray sampleFork() {
 }
 
 QByteArray found(const QByteArray &fork, FourCharCode type, std::int16_t number) {
-    const auto data = resourceInFork(fork, type, number);
+    const auto data = zt::resourceInFork(fork, type, number);
     return data ? data->toByteArray() : QByteArray("none");
 }
 
@@ -68,43 +68,43 @@ TEST(ResourceForkTest, placesOutsideOfTheForkAreNotFollowed) {
     for (qsizetype place = 0; place < 16; ++place) {
         QByteArray damaged = fork;
         damaged[place] = '\xFF';
-        EXPECT_FALSE(resourceInFork(damaged, fourCharCode("ICN#"), 1)) << place;
+        EXPECT_FALSE(zt::resourceInFork(damaged, fourCharCode("ICN#"), 1)) << place;
     }
     EXPECT_EQ(found(QByteArray(fork).replace(0, 4, QByteArray(4, '\xFF')), vers, 1), "none");
 }
 
 TEST(ResourceForkTest, anAppleDoubleFileHoldsTheFork) {
     const QByteArray fork = sampleFork();
-    EXPECT_EQ(resourceForkOfAppleDouble(makeAppleDouble(fork)), fork);
+    EXPECT_EQ(zt::resourceForkOfAppleDouble(makeAppleDouble(fork)), fork);
 }
 
 TEST(ResourceForkTest, anotherFileIsNoAppleDoubleFile) {
     QByteArray file = makeAppleDouble(sampleFork());
     file[3] = '\x00'; // that of the form which holds the data as well
-    EXPECT_TRUE(resourceForkOfAppleDouble(file).isEmpty());
-    EXPECT_TRUE(resourceForkOfAppleDouble({}).isEmpty());
+    EXPECT_TRUE(zt::resourceForkOfAppleDouble(file).isEmpty());
+    EXPECT_TRUE(zt::resourceForkOfAppleDouble({}).isEmpty());
 }
 
 TEST(ResourceForkTest, anAppleDoubleFileThatIsCutHoldsNothing) {
     const QByteArray file = makeAppleDouble(sampleFork());
     for (qsizetype size = 0; size < file.size(); ++size)
-        EXPECT_TRUE(resourceForkOfAppleDouble(QByteArray(file.constData(), size)).isEmpty())
+        EXPECT_TRUE(zt::resourceForkOfAppleDouble(QByteArray(file.constData(), size)).isEmpty())
             << size;
 }
 
 TEST(ResourceForkTest, theForkIsReadFromTheCompanion) {
     const TestBundles files;
     const QString program = files.write(u"program"_s, "code");
-    EXPECT_FALSE(readResourceFork(program));
+    EXPECT_FALSE(zt::readResourceFork(program));
     files.write(u"._program"_s, makeAppleDouble(sampleFork()));
-    EXPECT_EQ(readResourceFork(program), sampleFork());
+    EXPECT_EQ(zt::readResourceFork(program), sampleFork());
 }
 
 TEST(ResourceForkTest, aFolderHasACompanionToo) {
     const TestBundles files;
     files.write(u"Folder.app/file"_s, {});
     files.write(u"._Folder.app"_s, makeAppleDouble(sampleFork()));
-    EXPECT_EQ(readResourceFork(files.path(u"Folder.app"_s)), sampleFork());
+    EXPECT_EQ(zt::readResourceFork(files.path(u"Folder.app"_s)), sampleFork());
 }
 
 TEST(ResourceForkTest, theForkIsReadFromTheExtendedAttribute) {
@@ -115,16 +115,16 @@ TEST(ResourceForkTest, theForkIsReadFromTheExtendedAttribute) {
                    fork.constData(), static_cast<std::size_t>(fork.size()), 0) != 0)
         GTEST_SKIP() << "the file system of " << qPrintable(files.folder())
                      << " keeps no extended attributes";
-    EXPECT_EQ(readResourceFork(program), fork);
+    EXPECT_EQ(zt::readResourceFork(program), fork);
 }
 
 TEST(ResourceForkTest, aFolderInTheCompanionsPlaceHoldsNothing) {
     const TestBundles files;
     const QString program = files.write(u"program"_s, "code");
     QDir().mkdir(files.path(u"._program"_s));
-    EXPECT_FALSE(readResourceFork(program));
+    EXPECT_FALSE(zt::readResourceFork(program));
 }
 
 TEST(ResourceForkTest, aFileThatDoesNotExistHasNoFork) {
-    EXPECT_FALSE(readResourceFork(u"/nowhere/at/all"_s));
+    EXPECT_FALSE(zt::readResourceFork(u"/nowhere/at/all"_s));
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "Platform/linux/EventLoopClock.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include <QThread>
 #include <QTimer>

@@ -5,8 +5,6 @@
 
 // Classic resources: small pieces of data beside a file, told apart by a type and a number.
 
-#include "ZTStuff/ZTClasses/ZTCompatibility/FourCharCode.h"
-
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -14,8 +12,7 @@
 #include <cstdint>
 #include <optional>
 
-// The largest resource fork that is read, in bytes: a resource map cannot address more.
-inline constexpr qsizetype maximumResourceForkSize = 16 * 1024 * 1024;
+namespace zt {
 
 // The resource fork of the file: in an AppleDouble companion "._name" beside it, else in an
 // extended attribute. No value when the file has none, or none that can be read. Thread: any.
@@ -27,5 +24,7 @@ QByteArrayView resourceForkOfAppleDouble(QByteArrayView content);
 
 // The data of the resource with the type and the number. No value when there is none, when it is
 // compressed, and when the fork is damaged on the way to it. A view of the same bytes. Thread: any.
-std::optional<QByteArrayView> resourceInFork(QByteArrayView fork, FourCharCode type,
+std::optional<QByteArrayView> resourceInFork(QByteArrayView fork, std::uint32_t type,
                                              std::int16_t number);
+
+} // namespace zt

@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "ZTStuff/ZTClasses/ZTCompatibility/ResourceFork.h"
+#include "Platform/linux/ResourceFork.h"
+
+#include "Platform/FileAttributes.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <sys/xattr.h>
+namespace zt {
 
 namespace {
 
@@ -48,7 +50,7 @@ struct ReferenceList {
 };
 
 std::optional<ReferenceList> findType(const BigEndianReader &fork, std::uint64_t typeList,
-                                      FourCharCode type) {
+                                      std::uint32_t type) {
     // Counts are stored less one, so that an empty list has 0xFFFF.
     const auto lastType = fork.number(typeList, 2);
     if (!lastType || *lastType == 0xFFFF)
@@ -90,28 +92,14 @@ std::optional<QByteArray> readCompanion(const QString &path) {
     const QFileInfo file(path);
     QFile companion(file.path() + QStringLiteral("/._") + file.fileName());
     // A pipe or device of that name would keep the reader waiting.
-    if (!QFileInfo(companion).isFile() || companion.size() > maximumResourceForkSize ||
+    if (!QFileInfo(companion).isFile() || companion.size() > maximumFileAttributeSize ||
         !companion.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QByteArray content = companion.read(maximumResourceForkSize);
+    const QByteArray content = companion.read(maximumFileAttributeSize);
     const QByteArrayView fork = resourceForkOfAppleDouble(content);
     if (fork.isEmpty())
         return std::nullopt;
     return fork.toByteArray();
-}
-
-std::optional<QByteArray> readAttribute(const QByteArray &path, const char *name) {
-    const ssize_t size = ::getxattr(path.constData(), name, nullptr, 0);
-    if (size <= 0 || size > maximumResourceForkSize)
-        return std::nullopt;
-    QByteArray fork(size, Qt::Uninitialized);
-    const ssize_t count =
-        ::getxattr(path.constData(), name, fork.data(), static_cast<std::size_t>(fork.size()));
-    // Another program may have taken it away, or made it larger, in between.
-    if (count <= 0)
-        return std::nullopt;
-    fork.truncate(count);
-    return fork;
 }
 
 } // namespace
@@ -119,14 +107,7 @@ std::optional<QByteArray> readAttribute(const QByteArray &path, const char *name
 std::optional<QByteArray> readResourceFork(const QString &path) {
     if (std::optional<QByteArray> fork = readCompanion(path))
         return fork;
-    // Linux lets programs name attributes only behind "user."; some file systems of other systems
-    // are mounted with their own names.
-    const QByteArray encodedPath = QFile::encodeName(path);
-    for (const char *name : {"user.com.apple.ResourceFork", "com.apple.ResourceFork"}) {
-        if (std::optional<QByteArray> fork = readAttribute(encodedPath, name))
-            return fork;
-    }
-    return std::nullopt;
+    return readFileAttribute(path, "com.apple.ResourceFork");
 }
 
 QByteArrayView resourceForkOfAppleDouble(QByteArrayView content) {
@@ -147,7 +128,7 @@ QByteArrayView resourceForkOfAppleDouble(QByteArrayView content) {
     return {};
 }
 
-std::optional<QByteArrayView> resourceInFork(QByteArrayView fork, FourCharCode type,
+std::optional<QByteArrayView> resourceInFork(QByteArrayView fork, std::uint32_t type,
                                              std::int16_t number) {
     const BigEndianReader reader(fork);
     const auto dataStart = reader.number(0, 4);
@@ -169,3 +150,5 @@ std::optional<QByteArrayView> resourceInFork(QByteArrayView fork, FourCharCode t
         return std::nullopt;
     return reader.part(data + 4, *length);
 }
+
+} // namespace zt
