@@ -54,6 +54,8 @@ using AXUIElementRef = const struct __AXUIElement *;
 using AXObserverRef = struct __AXObserver *;
 using AXObserverCallback = void (*)(AXObserverRef observer, AXUIElementRef element,
                                     CFStringRef notification, void *context);
+#define kAXRoleDescriptionAttribute CFSTR("AXRoleDescription")
+#define kAXTitleAttribute CFSTR("AXTitle")
 AXUIElementRef AXUIElementCreateApplication(pid_t pid);
 AXError AXUIElementCopyAttributeValue(AXUIElementRef element, CFStringRef attribute,
                                       CFTypeRef *value);
@@ -76,6 +78,8 @@ enum : CGWindowID { kCGNullWindowID = 0 };
 extern const CFStringRef kCGWindowOwnerPID;
 extern const CFStringRef kCGWindowLayer;
 CFArrayRef CGWindowListCopyWindowInfo(CGWindowListOption option, CGWindowID relativeToWindow);
+
+using CGImageRef = struct CGImage *;
 
 // Fonts.
 

@@ -37,6 +37,11 @@ OSStatus RemoveEventHandler(EventHandlerRef handler);
 OSType GetEventClass(EventRef event);
 UInt32 GetEventKind(EventRef event);
 
+using AEIdleProcPtr = Boolean (*)();
+using AEFilterProcPtr = Boolean (*)();
+OSErr AESend(const AppleEvent *event, AppleEvent *reply, AESendMode mode, AESendPriority priority,
+             SInt32 timeoutInTicks, AEIdleProcPtr idle, AEFilterProcPtr filter);
+
 using TISInputSourceRef = struct __TISInputSource *;
 extern const CFStringRef kTISPropertyUnicodeKeyLayoutData;
 TISInputSourceRef TISCopyCurrentKeyboardInputSource();

@@ -45,9 +45,7 @@ ResFileRefNum FSOpenResFile(const FSRef *item, SInt8 permission);
 void CloseResFile(ResFileRefNum file);
 ResFileRefNum CurResFile();
 void UseResFile(ResFileRefNum file);
-OSErr ResError();
 Handle Get1Resource(ResType type, SInt16 number);
-void ReleaseResource(Handle resource);
 Size GetHandleSize(Handle handle);
 
 // Apple events.
@@ -86,8 +84,6 @@ enum : AESendMode {
 };
 enum : AESendPriority { kAENormalPriority = 0, kAEHighPriority = 1 };
 enum : SInt32 { kAEDefaultTimeout = -1 };
-using AEIdleProcPtr = Boolean (*)();
-using AEFilterProcPtr = Boolean (*)();
 OSErr AECreateDesc(DescType type, const void *data, Size size, AEDesc *result);
 OSErr AEDisposeDesc(AEDesc *descriptor);
 OSErr AECreateAppleEvent(AEEventClass eventClass, AEEventID eventID, const AEAddressDesc *target,
@@ -96,8 +92,6 @@ OSStatus AEBuildAppleEvent(AEEventClass eventClass, AEEventID eventID, DescType 
                            const void *address, Size addressSize, SInt16 returnID,
                            SInt32 transactionID, AppleEvent *result, AEBuildError *error,
                            const char *format, ...);
-OSErr AESend(const AppleEvent *event, AppleEvent *reply, AESendMode mode, AESendPriority priority,
-             SInt32 timeoutInTicks, AEIdleProcPtr idle, AEFilterProcPtr filter);
 OSStatus AESendMessage(const AppleEvent *event, AppleEvent *reply, AESendMode mode,
                        long timeoutInTicks);
 
