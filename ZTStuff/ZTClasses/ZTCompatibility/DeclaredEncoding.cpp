@@ -5,7 +5,7 @@
 
 #include "Platform/FileAttributes.h"
 
-#include <QByteArray>
+#include <QList>
 
 std::optional<StringEncoding> declaredEncodingOfFile(const QString &path) {
     constexpr qsizetype longestName = 256;

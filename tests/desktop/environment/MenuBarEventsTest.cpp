@@ -5,16 +5,12 @@
 
 #include "Platform/linux/X11MenuBarEvents.h"
 
+#include "tests/desktop/environment/MenuBarEventsContract.h"
 #include "tests/desktop/environment/XServer.h"
-#include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/fakes/FakeMenuBarEvents.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <array>
-#include <vector>
+#include <memory>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -22,9 +18,9 @@ using zt::MenuBarEvents;
 
 namespace {
 
-using Types = std::vector<MenuBarEvents::Type>;
+using Types = MenuBarEventTypes;
 
-constexpr std::array both = {MenuBarEvents::shown, MenuBarEvents::hidden};
+constexpr auto both = bothMenuBarEvents;
 
 bool isInFront(const std::string &title) {
     RunningProgram program({"xdotool", "getactivewindow", "getwindowname"});
@@ -37,7 +33,7 @@ void pressF11() {
     ASSERT_EQ(program.waitForEnd(), 0);
 }
 
-// An implementation, and a program that hides the menu bar and shows it again.
+// A program that hides the menu bar and shows it again.
 struct X11Case {
     X11Case() {
         EXPECT_TRUE(program.waitForLine("ready"));
@@ -57,64 +53,8 @@ struct FakeCase {
     FakeMenuBarEvents events;
 };
 
-// A handler that keeps what it hears.
-MenuBarEvents::Handler keepIn(Types &heard, std::int32_t answer = MenuBarEvents::notHandled) {
-    return [&heard, answer](MenuBarEvents::Type event) {
-        heard.push_back(event);
-        return answer;
-    };
-}
-
-} // namespace
-
-template <typename Case>
-class MenuBarEventsContractTest : public testing::Test {
-protected:
-    Case implementation;
-    MenuBarEvents &events = implementation.events;
-};
-
 using Implementations = testing::Types<X11Case, FakeCase>;
-TYPED_TEST_SUITE(MenuBarEventsContractTest, Implementations);
-
-TYPED_TEST(MenuBarEventsContractTest, hidingAndShowingAreTold) {
-    Types heard;
-    ASSERT_TRUE(this->events.installHandler(both, keepIn(heard)));
-    EXPECT_THAT(heard, IsEmpty());
-    this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return heard == Types{MenuBarEvents::hidden}; }));
-    this->implementation.show();
-    EXPECT_TRUE(comesToHold([&] {
-        return heard == Types{MenuBarEvents::hidden, MenuBarEvents::shown};
-    }));
-}
-
-TYPED_TEST(MenuBarEventsContractTest, onlyWhatIsWantedIsTold) {
-    Types heard;
-    Types all;
-    ASSERT_TRUE(this->events.installHandler(both, keepIn(all)));
-    ASSERT_TRUE(this->events.installHandler(std::array{MenuBarEvents::shown}, keepIn(heard)));
-    this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return all.size() == 1; }));
-    this->implementation.show();
-    EXPECT_TRUE(comesToHold([&] { return all.size() == 2; }));
-    EXPECT_THAT(heard, ElementsAre(MenuBarEvents::shown));
-}
-
-TYPED_TEST(MenuBarEventsContractTest, anEventThatIsHandledGoesNoFurther) {
-    Types first;
-    Types second;
-    Types third;
-    ASSERT_TRUE(this->events.installHandler(both, keepIn(first)));
-    ASSERT_TRUE(this->events.installHandler(both, keepIn(second, MenuBarEvents::handled)));
-    ASSERT_TRUE(this->events.installHandler(both, keepIn(third)));
-    this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return second.size() == 1; }));
-    EXPECT_EQ(third.size(), 1U);
-    EXPECT_THAT(first, IsEmpty());
-}
-
-namespace {
+INSTANTIATE_TYPED_TEST_SUITE_P(Services, MenuBarEventsContractTest, Implementations);
 
 class X11MenuBarEventsTest : public testing::Test {
 protected:

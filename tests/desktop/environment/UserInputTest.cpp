@@ -5,6 +5,7 @@
 
 #include "Platform/linux/X11UserInput.h"
 
+#include "tests/desktop/environment/UserInputContract.h"
 #include "tests/desktop/environment/XServer.h"
 #include "tests/desktop/process/DesktopWait.h"
 #include "tests/fakes/FakeUserInput.h"
@@ -15,7 +16,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// An implementation, and a user who can be told to do nothing for a while or to press a key.
 struct X11Case {
     void idleFor(std::chrono::milliseconds time) {
         EXPECT_TRUE(comesToHold([&] { return input.idleTime() >= time; }));
@@ -35,28 +35,10 @@ struct FakeCase {
     FakeUserInput input;
 };
 
-} // namespace
-
-template <typename Case>
-class UserInputContractTest : public testing::Test {
-protected:
-    Case implementation;
-};
-
 using UserInputs = testing::Types<X11Case, FakeCase>;
-TYPED_TEST_SUITE(UserInputContractTest, UserInputs);
+INSTANTIATE_TYPED_TEST_SUITE_P(Services, UserInputContractTest, UserInputs);
 
-TYPED_TEST(UserInputContractTest, aKeyPressEndsTheIdleTime) {
-    // Servers count from some time before the first key.
-    this->implementation.idleFor(200ms);
-    const auto before = std::chrono::steady_clock::now();
-    this->implementation.pressKey();
-    const auto idle = this->implementation.input.idleTime();
-    ASSERT_TRUE(idle);
-    EXPECT_GE(*idle, 0ns);
-    // The key was pressed later than that; the server's milliseconds are rounded.
-    EXPECT_LE(*idle, std::chrono::steady_clock::now() - before + 2ms);
-}
+} // namespace
 
 TEST(X11UserInputTest, theMouseEndsItToo) {
     zt::X11UserInput input;

@@ -6,6 +6,7 @@
 #include "Platform/linux/MountedFileSystems.h"
 
 #include "tests/fakes/FakeFileSystems.h"
+#include "tests/unit/platform/FileSystemsContract.h"
 
 #include <QFile>
 #include <QStorageInfo>
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// An implementation, and an item whose file system is known to be of the type.
 struct LinuxCase {
     zt::MountedFileSystems fileSystems;
     QString path = u"/proc/self/status"_s;
@@ -37,40 +37,10 @@ struct FakeCase {
     FakeFileSystems fileSystems;
 };
 
-} // namespace
-
-template <typename Case>
-class FileSystemsContractTest : public testing::Test {
-protected:
-    Case implementation;
-};
-
 using Implementations = testing::Types<LinuxCase, FakeCase>;
-TYPED_TEST_SUITE(FileSystemsContractTest, Implementations);
+INSTANTIATE_TYPED_TEST_SUITE_P(Services, FileSystemsContractTest, Implementations);
 
-TYPED_TEST(FileSystemsContractTest, theTypeHasTheSystemsName) {
-    const auto type = this->implementation.fileSystems.typeNameFor(this->implementation.path);
-    ASSERT_TRUE(type);
-    EXPECT_EQ(*type, this->implementation.typeName);
-}
-
-TYPED_TEST(FileSystemsContractTest, aMissingItemIsAFailure) {
-    for (const QString &path : {u"/there/is/no/such/item"_s, u""_s}) {
-        const auto type = this->implementation.fileSystems.typeNameFor(path);
-        ASSERT_FALSE(type) << path.toStdString();
-        EXPECT_EQ(type.error().code, ENOENT);
-        const auto space = this->implementation.fileSystems.availableBytesFor(path);
-        ASSERT_FALSE(space) << path.toStdString();
-        EXPECT_EQ(space.error().code, ENOENT);
-    }
-}
-
-TYPED_TEST(FileSystemsContractTest, theSpaceOfAVolumeIsKnown) {
-    const auto space =
-        this->implementation.fileSystems.availableBytesFor(this->implementation.path);
-    ASSERT_TRUE(space);
-    EXPECT_EQ(*space, this->implementation.availableBytes);
-}
+} // namespace
 
 TEST(MountedFileSystemsTest, theSpaceIsWhatThisUserCanWrite) {
     const zt::MountedFileSystems fileSystems;

@@ -9,6 +9,8 @@
 
 extern "C" {
 
+enum : OSStatus { kAudioHardwareUnspecifiedError = 'what' };
+
 using AudioObjectID = UInt32;
 using AudioDeviceID = AudioObjectID;
 using AudioObjectPropertySelector = UInt32;

@@ -69,6 +69,7 @@ struct AEBuildError {
 };
 enum : DescType {
     typeNull = 'null',
+    typeAppleEvent = 'aevt',
     typeProcessSerialNumber = 'psn ',
     typeKernelProcessID = 'kpid',
 };
