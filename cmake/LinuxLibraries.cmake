@@ -1,0 +1,17 @@
+# The libraries of a build for Linux.
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets DBus)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
+pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-unix-2.0)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
+pkg_check_modules(XML REQUIRED IMPORTED_TARGET libxml-2.0)
+pkg_check_modules(XCB_WINDOWS REQUIRED IMPORTED_TARGET xcb xcb-ewmh xcb-icccm xcb-res)
+pkg_check_modules(XCB_SESSION REQUIRED IMPORTED_TARGET xcb xcb-screensaver xcb-xfixes)
+pkg_check_modules(XKB REQUIRED IMPORTED_TARGET xkbcommon xkbcommon-x11)
+pkg_check_modules(ATSPI REQUIRED IMPORTED_TARGET atspi-2 gobject-2.0)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
+pkg_check_modules(MPG123 REQUIRED libmpg123)
+pkg_check_modules(PULSE REQUIRED IMPORTED_TARGET libpulse)
+pkg_check_modules(SNDFILE REQUIRED IMPORTED_TARGET sndfile)
