@@ -101,8 +101,8 @@ std::string formatLogLine(std::chrono::system_clock::time_point time, std::strin
 
 std::string writeLogLine(std::string_view message) {
     const int saved = errno;
-    std::string line = formatLogLine(std::chrono::system_clock::now(),
-                                     program_invocation_short_name, ::getpid(), message);
+    std::string line =
+        formatLogLine(std::chrono::system_clock::now(), programName(), ::getpid(), message);
     line += '\n';
     // A remainder after a short write is dropped: completing it later could mix two lines.
     static_cast<void>(

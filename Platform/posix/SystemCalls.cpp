@@ -3,8 +3,6 @@
 
 #include "Platform/posix/SystemCalls.h"
 
-#include <cstdio> // renameat2
-
 namespace zt {
 
 void UniqueFd::reset(int descriptor) {
@@ -73,18 +71,6 @@ std::optional<struct stat> statusOf(int descriptor) {
     return status;
 }
 
-bool renameWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to) {
-    if (::renameat2(fromFolder, from, toFolder, to, RENAME_NOREPLACE) == 0)
-        return true;
-    if (errno != EINVAL && errno != ENOSYS)
-        return false;
-    if (statusAt(toFolder, to)) {
-        errno = EEXIST;
-        return false;
-    }
-    return errno == ENOENT && ::renameat(fromFolder, from, toFolder, to) == 0;
-}
-
 bool moveWithoutReplacing(int fromFolder, const char *from, int toFolder, const char *to) {
     if (renameWithoutReplacing(fromFolder, from, toFolder, to))
         return true;
@@ -106,20 +92,8 @@ bool moveWithoutReplacing(int fromFolder, const char *from, int toFolder, const 
     return moved;
 }
 
-bool exchangeNames(int firstFolder, const char *first, int secondFolder, const char *second) {
-    if (::renameat2(firstFolder, first, secondFolder, second, RENAME_EXCHANGE) == 0)
-        return true;
-    if (errno == ENOSYS)
-        errno = EINVAL;
-    return false;
-}
-
 bool flushToMedium(int descriptor) {
     return retryInterrupted([&] { return ::fsync(descriptor); }) == 0;
-}
-
-bool flushFileSystem(int descriptor) {
-    return retryInterrupted([&] { return ::syncfs(descriptor); }) == 0;
 }
 
 } // namespace zt
