@@ -3,7 +3,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The Trash, through the workspace.
+// The Trash, through the workspace. No Qt, so that the privileged tool can use it.
 
 #include "Platform/Trash.h"
 

@@ -3,23 +3,21 @@
 
 #include "Platform/macos/WorkspaceTrash.h"
 
-#include "Platform/macos/FoundationText.h"
-
 #import <AppKit/AppKit.h>
-
-#include <QFile>
 
 namespace zt {
 
 Result<std::string> WorkspaceTrash::moveToTrash(const std::string &path) {
     @autoreleasepool {
-        NSString *const item = nativeTextOf(QFile::decodeName(path.c_str()));
-        const BOOL isMoved = [[NSWorkspace sharedWorkspace]
-            performFileOperation:NSWorkspaceRecycleOperation
-                          source:[item stringByDeletingLastPathComponent]
-                     destination:@""
-                           files:@[ item.lastPathComponent ]
-                             tag:nullptr];
+        NSString *const item =
+            [[NSFileManager defaultManager] stringWithFileSystemRepresentation:path.data()
+                                                                        length:path.size()];
+        const BOOL isMoved = item && [[NSWorkspace sharedWorkspace]
+                                         performFileOperation:NSWorkspaceRecycleOperation
+                                                       source:[item stringByDeletingLastPathComponent]
+                                                  destination:@""
+                                                        files:@[ item.lastPathComponent ]
+                                                          tag:nullptr];
         if (!isMoved)
             return Error{"move to the Trash", path, "the workspace refused"};
         return std::string();

@@ -53,12 +53,8 @@ struct NSFastEnumerationState {
 @end
 
 @interface NSString : NSObject <NSCopying>
-+ (instancetype)stringWithUTF8String:(const char *)bytes;
 @property(readonly) NSUInteger length;
-@property(readonly) const char *UTF8String;
-@property(readonly) const char *fileSystemRepresentation;
 - (NSString *)stringByDeletingLastPathComponent;
-- (NSString *)stringByExpandingTildeInPath;
 @property(readonly, copy) NSString *lastPathComponent;
 @end
 
@@ -102,9 +98,7 @@ struct NSFastEnumerationState {
 @end
 
 @interface NSURL : NSObject
-+ (NSURL *)fileURLWithPath:(NSString *)path;
 + (instancetype)URLWithString:(NSString *)text;
-@property(readonly, copy) NSString *path;
 @end
 
 @interface NSBundle : NSObject
@@ -122,22 +116,19 @@ enum : NSSearchPathDomainMask { NSUserDomainMask = 1, NSLocalDomainMask = 2 };
 extern "C" NSArray<NSString *> *NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory,
                                                                     NSSearchPathDomainMask domain,
                                                                     BOOL expandTilde);
-extern "C" NSString *NSHomeDirectory();
-extern "C" NSString *NSTemporaryDirectory();
 extern "C" Class NSClassFromString(NSString *name);
 extern "C" void NSLog(NSString *format, ...) __attribute__((format(__NSString__, 1, 2)));
 
 @interface NSFileManager : NSObject
 @property(class, readonly, strong) NSFileManager *defaultManager;
 - (NSString *)displayNameAtPath:(NSString *)path;
-- (BOOL)fileExistsAtPath:(NSString *)path;
+- (NSString *)stringWithFileSystemRepresentation:(const char *)bytes length:(NSUInteger)length;
 @end
 
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults *standardUserDefaults;
 - (void)addSuiteNamed:(NSString *)name;
 - (id)objectForKey:(NSString *)key;
-- (NSDictionary<NSString *, id> *)persistentDomainForName:(NSString *)name;
 @end
 
 @interface NSFileHandle : NSObject
@@ -152,7 +143,6 @@ extern "C" void NSLog(NSString *format, ...) __attribute__((format(__NSString__,
 @end
 
 @interface NSTask : NSObject
-@property(copy) NSURL *executableURL;
 @property(copy) NSString *launchPath;
 @property(copy) NSArray<NSString *> *arguments;
 @property(copy) NSString *currentDirectoryPath;
