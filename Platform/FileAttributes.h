@@ -14,7 +14,7 @@
 namespace zt {
 
 // The largest attribute that is read, in bytes: a classic resource map cannot address more.
-inline constexpr qsizetype maximumFileAttributeSize = 16 * 1024 * 1024;
+inline constexpr qsizetype maximumFileAttributeSize = qsizetype(16) * 1024 * 1024;
 
 // The extended attribute that programs know by the name ("com.apple.TextEncoding"). No value when
 // the item has none, and when it cannot be read. Thread: any, for both.

@@ -31,7 +31,7 @@ QString attributeOf(AXUIElementRef element, CFStringRef attribute) {
 QString describe(AXUIElementRef element) {
     if (!element)
         return {};
-    const QString role = attributeOf(element, kAXRoleDescriptionAttribute);
+    QString role = attributeOf(element, kAXRoleDescriptionAttribute);
     const QString name = attributeOf(element, kAXTitleAttribute);
     if (name.isEmpty())
         return role;
@@ -47,16 +47,18 @@ public:
     AxObserver &operator=(const AxObserver &) = delete;
 
     ~AxObserver() override {
-        if (m_observer)
+        if (m_observer) {
             CFRunLoopRemoveSource(CFRunLoopGetMain(), AXObserverGetRunLoopSource(m_observer.get()),
                                   kCFRunLoopCommonModes);
+        }
     }
 
     AXError begin(std::int32_t pid) {
         const AXError status = AXObserverCreate(pid, &AxObserver::hear, m_observer.receive());
-        if (status == kAXErrorSuccess)
+        if (status == kAXErrorSuccess) {
             CFRunLoopAddSource(CFRunLoopGetMain(), AXObserverGetRunLoopSource(m_observer.get()),
                                kCFRunLoopCommonModes);
+        }
         return status;
     }
 

@@ -77,9 +77,11 @@ std::int32_t
 SecurityAuthorizationReference::executeWithPrivileges(const PrivilegedCommand &command) {
     const QByteArray tool = command.tool.toUtf8();
     std::vector<QByteArray> texts;
+    texts.reserve(std::size_t(command.arguments.size()));
     for (const QString &argument : command.arguments)
         texts.push_back(argument.toUtf8());
     std::vector<char *> arguments;
+    arguments.reserve(texts.size() + 1);
     for (QByteArray &text : texts)
         arguments.push_back(text.data());
     arguments.push_back(nullptr);

@@ -30,9 +30,10 @@ std::optional<std::vector<std::optional<QString>>> SharedFileListLoginItems::res
     if (!items)
         return std::nullopt;
     std::vector<std::optional<QString>> paths;
-    for (CFIndex index = 0; index < CFArrayGetCount(items.get()); ++index)
-        paths.push_back(resolvedPath(static_cast<LSSharedFileListItemRef>(
-            const_cast<void *>(CFArrayGetValueAtIndex(items.get(), index)))));
+    for (CFIndex index = 0; index < CFArrayGetCount(items.get()); ++index) {
+        void *const item = const_cast<void *>(CFArrayGetValueAtIndex(items.get(), index));
+        paths.push_back(resolvedPath(static_cast<LSSharedFileListItemRef>(item)));
+    }
     return paths;
 }
 

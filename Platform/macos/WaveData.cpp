@@ -37,7 +37,7 @@ QByteArray waveDataOf(const SoundSamples &samples) {
     const auto channels = quint16(samples.channels);
     const auto frameSize = quint16(channels * valueSize);
     QByteArray bytes;
-    bytes.reserve(qsizetype(headerSize + size));
+    bytes.reserve(qsizetype(headerSize) + qsizetype(size));
     bytes.append("RIFF");
     append(bytes, quint32(headerSize - 8 + size));
     bytes.append("WAVEfmt ");

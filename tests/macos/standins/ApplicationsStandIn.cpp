@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <deque>
 
 #include <sys/sysctl.h>
 
@@ -220,9 +221,10 @@ CFArrayRef CGWindowListCopyWindowInfo(CGWindowListOption /*option*/,
     QVariantList windows;
     for (const Application &application : session.applications) {
         for (const int layer : {0, 25, 0}) { // two windows, and an item of the menu bar between
-            if (application.hasWindow || layer != 0)
+            if (application.hasWindow || layer != 0) {
                 windows << QVariantMap{{QStringLiteral("kCGWindowOwnerPID"), application.pid},
                                        {QStringLiteral("kCGWindowLayer"), layer}};
+            }
         }
     }
     return referenceTo<CFArrayRef>(standin::make(windows));
@@ -241,14 +243,14 @@ EventTargetRef GetEventDispatcherTarget() {
 OSStatus InstallEventHandler(EventTargetRef target, EventHandlerUPP handler, ItemCount count,
                              const EventTypeSpec *types, void *context,
                              EventHandlerRef *installed) {
-    static std::uintptr_t last = 0;
+    static std::deque<char> references; // each stands for a handler by where it is
     if (standin::eventHandlers.isRefusing)
         return paramErr;
     standin::EventHandlers::Installed added = {
         .target = target, .types = {}, .handler = handler, .context = context, .reference = {}};
     for (ItemCount index = 0; index < count; ++index)
         added.types.emplace_back(types[index].eventClass, types[index].eventKind);
-    added.reference = reinterpret_cast<EventHandlerRef>(++last);
+    added.reference = reinterpret_cast<EventHandlerRef>(&references.emplace_back());
     *installed = added.reference;
     standin::eventHandlers.installed.push_back(std::move(added));
     return noErr;

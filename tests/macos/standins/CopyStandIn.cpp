@@ -50,10 +50,11 @@ int copyfile_state_get(copyfile_state_t state, std::uint32_t flag, void *value) 
 }
 
 int copyfile_state_set(copyfile_state_t state, std::uint32_t flag, const void *value) {
-    if (flag == COPYFILE_STATE_STATUS_CB)
+    if (flag == COPYFILE_STATE_STATUS_CB) {
         state->callback = reinterpret_cast<copyfile_callback_t>(const_cast<void *>(value));
-    else
+    } else {
         state->context = const_cast<void *>(value);
+    }
     return 0;
 }
 
@@ -100,10 +101,11 @@ int copyfile(const char *source, const char *target, copyfile_state_t state,
 
 int removefile(const char *path, removefile_state_t /*state*/, removefile_flags_t flags) {
     std::error_code error;
-    if (flags == REMOVEFILE_RECURSIVE)
+    if (flags == REMOVEFILE_RECURSIVE) {
         std::filesystem::remove_all(path, error);
-    else
+    } else {
         std::filesystem::remove(path, error);
+    }
     errno = error.value();
     return error ? -1 : 0;
 }

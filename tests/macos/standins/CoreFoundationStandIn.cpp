@@ -303,7 +303,8 @@ CFPropertyListRef CFPropertyListCreateWithData(CFAllocatorRef /*allocator*/, CFD
     const auto list = standin::files.propertyLists.find(objectOf(data)->value.toByteArray());
     if (list != standin::files.propertyLists.end())
         return standin::make(list->second);
-    *error = referenceTo<CFErrorRef>(standin::makeOther());
+    if (error)
+        *error = referenceTo<CFErrorRef>(standin::makeOther());
     return nullptr;
 }
 

@@ -65,7 +65,7 @@ inline CFRange CFRangeMake(CFIndex location, CFIndex length) {
 extern const CFAllocatorRef kCFAllocatorDefault;
 
 CFTypeRef CFRetain(CFTypeRef object);
-void CFRelease(CFTypeRef object);
+void CFRelease(CFTypeRef reference);
 CFTypeID CFGetTypeID(CFTypeRef object);
 
 using CFStringEncoding = UInt32;
