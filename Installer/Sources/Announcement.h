@@ -13,6 +13,7 @@ class QWidget;
 // Thread: main, as for the next.
 void prepareAnnouncements();
 
-// Has such a view read out: the text, which is then its name until it is announced again; without one
-// what a label says, and the accessible name of another view. Nothing happens when nobody listens.
+// Has such a view read out: the text, which is then its name until it is announced again; without
+// one what a label says, and the accessible name of another view. Nothing happens when nobody
+// listens.
 void announce(QWidget &view, const QString &text = {});

@@ -23,6 +23,13 @@ ForecastView::ForecastView(QWidget *parent) : QWidget(parent), m_layout(new QVBo
     m_layout->setSpacing(rowSpacing);
 }
 
+QString ForecastView::text() const {
+    QStringList texts;
+    for (const ForecastLine &line : m_lines)
+        texts << line.text;
+    return texts.join(QLatin1Char(' '));
+}
+
 void ForecastView::setLines(const QList<ForecastLine> &lines) {
     if (lines == m_lines)
         return;

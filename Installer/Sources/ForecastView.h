@@ -18,6 +18,8 @@ public:
     explicit ForecastView(QWidget *parent = nullptr);
 
     const QList<ForecastLine> &lines() const { return m_lines; }
+    // All of them as one text.
+    QString text() const;
     void setLines(const QList<ForecastLine> &lines);
 
 private:

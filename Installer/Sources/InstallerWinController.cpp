@@ -80,6 +80,7 @@ void InstallerWinController::selectTab(int pageIndex) {
     const bool mainPage = pageIndex != ReadMePage;
     m_ui.installButton->setText(mainPage ? localizedString("Install")
                                          : localizedString("Continue"));
+    describeInstallButton();
     const bool hasReadMe = arguments().contains(ZTInstallerKeyReadMePath);
     if (hasReadMe)
         m_ui.cancelButton->setText(mainPage ? localizedString("Go Back")
@@ -104,7 +105,7 @@ void InstallerWinController::assignShortcuts() {
     constexpr char16_t firstIdeograph = 0x2E80; // nothing from here on is on a key
     QString taken;
     for (QPushButton *button :
-         {m_ui.installButton, m_ui.cancelButton, m_ui.stopButton, m_ui.logButton}) {
+         {m_ui.installButton, m_ui.cancelButton, m_ui.logButton, m_ui.stopButton}) {
         const QString title = button->text().toUpper();
         const auto *letter = std::ranges::find_if(title, [&taken](QChar character) {
             return character.isLetter() && character.unicode() < firstIdeograph &&

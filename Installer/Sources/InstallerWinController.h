@@ -113,6 +113,7 @@ private:
     void endForecasting();
     void refreshForecast();
     void showForecast(const Forecast &found);
+    void describeInstallButton();
 
     bool wantsDoneSound() const;
     void showCopyProgress(const zt::CopyProgress &progress) override;

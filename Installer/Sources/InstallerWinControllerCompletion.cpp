@@ -72,7 +72,6 @@ void InstallerWinController::applyTimedQuit() {
 void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.cancelButton->hide();
     m_ui.installButton->setText(localizedString("OK"));
-    m_ui.installButton->setAccessibleDescription({});
     m_ui.pathField->hide();
     m_ui.explanationField->hide();
     m_ui.messageField->hide();
@@ -80,6 +79,7 @@ void InstallerWinController::showFinalMessage(const char *messageKey) {
     m_ui.logButton->hide();
     m_ui.introField->setText(ZTFormat(localizedString(messageKey), productName()));
     m_finished = true;
+    describeInstallButton();
     announce(*m_ui.introField);
     assignShortcuts();
 }

@@ -38,8 +38,9 @@ void InstallerWinController::endForecasting() {
     m_isForecasting = false;
     m_forecastThread.request_stop();
     m_processObservation = {};
+    m_ui.forecastField->setLines({});
     m_ui.forecastField->hide();
-    m_ui.installButton->setAccessibleDescription({});
+    describeInstallButton();
 }
 
 void InstallerWinController::refreshForecast() {
@@ -69,12 +70,15 @@ void InstallerWinController::showForecast(const Forecast &found) {
         return;
     m_ui.forecastField->setLines(lines);
     m_ui.forecastField->setVisible(!lines.isEmpty());
-    QStringList texts;
-    for (const ForecastLine &line : lines)
-        texts << line.text;
-    // Read out when the button gets the focus; only what wants something done interrupts.
-    m_ui.installButton->setAccessibleDescription(texts.join(u' '));
+    describeInstallButton();
+    // Only what wants something done interrupts.
     if (!lines.isEmpty() && lines.first().kind == ForecastLine::Kind::Problem)
-        announce(*m_ui.forecastField, texts.join(u' '));
+        announce(*m_ui.forecastField, m_ui.forecastField->text());
     growToFit();
+}
+
+// What will happen is read out when the button that does it gets the focus.
+void InstallerWinController::describeInstallButton() {
+    const bool installs = m_ui.tabView->currentIndex() == MainPage && !m_finished;
+    m_ui.installButton->setAccessibleDescription(installs ? m_ui.forecastField->text() : QString());
 }

@@ -54,8 +54,13 @@ protected:
     }
 
     void startWithReadMe() {
-        start({u"-readMePath"_s, sample() + u"/Contents/Resources/ReadMe.rtf"_s,
-               u"-documentationPath"_s, sample() + u"/Contents/Resources/Documentation.html"_s});
+        // One without links, which would be reached one by one.
+        QFile readMe(m_folder.filePath(u"ReadMe.txt"_s));
+        ASSERT_TRUE(readMe.open(QFile::WriteOnly));
+        readMe.write("Please read me.\n");
+        readMe.close();
+        start({u"-readMePath"_s, readMe.fileName(), u"-documentationPath"_s,
+               sample() + u"/Contents/Resources/Documentation.html"_s});
     }
 
     std::int32_t pid() const { return static_cast<std::int32_t>(m_installer.processId()); }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "ZTStuff/CocoaExtensions/ColorContrast.h"
 #include "ZTStuff/CocoaExtensions/DynamicColorPalette.h"
+#include "ZTStuff/CocoaExtensions/ColorContrast.h"
 
 #include "ZTStuff/CocoaExtensions/FollowedAppearance.h"
 #include "ZTStuff/CocoaExtensions/ViewExtensions.h"
