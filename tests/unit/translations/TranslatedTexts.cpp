@@ -45,7 +45,7 @@ QString textOf(QXmlStreamReader &xml) {
 } // namespace
 
 QStringList translatedLanguages() {
-    return QString::fromUtf8(LANGUAGES).split(u';', Qt::SkipEmptyParts);
+    return QString::fromUtf8(LANGUAGES).split(u',', Qt::SkipEmptyParts);
 }
 
 QSet<QString> keysInCode(const QString &code) {
