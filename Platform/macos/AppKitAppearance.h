@@ -19,6 +19,7 @@ public:
     AppKitAppearance &operator=(const AppKitAppearance &) = delete;
 
     std::optional<Scheme> preferredScheme() const override;
+    bool prefersMoreContrast() const override;
     ControlTint controlTint() const override;
     std::optional<AccentColor> accentColor() const override;
     void setChangeListener(const void *owner, std::function<void()> changed) override;

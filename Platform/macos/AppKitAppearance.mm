@@ -38,6 +38,11 @@
                                                      selector:selector
                                                          name:name
                                                        object:nil];
+        [[NSWorkspace sharedWorkspace].notificationCenter
+            addObserver:self
+               selector:selector
+                   name:NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification
+                 object:nil];
     }
     return self;
 }
@@ -54,6 +59,7 @@
     _changed = nullptr;
     [[NSDistributedNotificationCenter defaultCenter] removeObserver:self];
     [[NSNotificationCenter defaultCenter] removeObserver:self];
+    [[NSWorkspace sharedWorkspace].notificationCenter removeObserver:self];
 }
 
 @end
@@ -90,6 +96,10 @@ std::optional<Appearance::Scheme> AppKitAppearance::preferredScheme() const {
         return schemeOfAppearance(textOf(match), textOf(NSAppearanceNameAqua),
                                   textOf(NSAppearanceNameDarkAqua));
     }
+}
+
+bool AppKitAppearance::prefersMoreContrast() const {
+    return [NSWorkspace sharedWorkspace].accessibilityDisplayShouldIncreaseContrast;
 }
 
 Appearance::ControlTint AppKitAppearance::controlTint() const {

@@ -3,6 +3,7 @@
 
 #include "Platform/macos/CarbonProcessManager.h"
 
+#include "Platform/Bundles.h"
 #include "Platform/ChildProcesses.h"
 #include "Platform/MacRoman.h"
 #include "Platform/macos/CFText.h"
@@ -12,6 +13,8 @@
 
 #include <ApplicationServices/ApplicationServices.h>
 #include <Carbon/Carbon.h>
+
+#include <QFileInfo>
 
 #include <array>
 #include <utility>
@@ -61,6 +64,15 @@ QVariantMap dictionaryOf(NativeNumber process) {
     return mapOf(dictionary.get());
 }
 
+ForeignApplication foreignApplication(const Bundle &bundle, const QString &userName) {
+    const QString code = bundle.stringForKey(u"CFBundleSignature"_s).value_or(QString());
+    return {.name = bundle.stringForKey(u"CFBundleName"_s)
+                        .value_or(QFileInfo(bundle.path()).completeBaseName()),
+            .signature = fourCharacterCode(code).value_or(noSignature),
+            .location = bundle.path(),
+            .userName = userName};
+}
+
 ProcessManager::Event eventOf(std::uint32_t kind) {
     switch (kind) {
     case kEventAppLaunched:
@@ -74,8 +86,9 @@ ProcessManager::Event eventOf(std::uint32_t kind) {
 
 } // namespace
 
-CarbonProcessManager::CarbonProcessManager(ChildProcesses &childProcesses)
-    : m_childProcesses(childProcesses) {}
+CarbonProcessManager::CarbonProcessManager(ChildProcesses &childProcesses, const Bundles &bundles)
+    : m_childProcesses(childProcesses)
+    , m_bundles(bundles) {}
 
 QList<ProcessSerialNumber> CarbonProcessManager::runningApplications() const {
     QList<ProcessSerialNumber> processes;
@@ -83,6 +96,23 @@ QList<ProcessSerialNumber> CarbonProcessManager::runningApplications() const {
     while (GetNextProcess(&process) == noErr)
         processes << ownOf(process);
     return processes;
+}
+
+// The Process Manager knows the applications of this session only.
+QList<ForeignApplication> CarbonProcessManager::applicationsOfOtherUsers() const {
+    QList<ForeignApplication> applications;
+    const Result<QByteArray> listed =
+        m_childProcesses.standardOutputOfShell(u"id -un; ps -axo user=,comm="_s);
+    if (!listed)
+        return applications;
+    const QString ownName = QString::fromUtf8(listed->first(listed->indexOf('\n') + 1)).trimmed();
+    for (const ListedProcess &process : parseProcessList(*listed)) {
+        if (process.userName == ownName)
+            continue;
+        if (const std::optional<Bundle> bundle = m_bundles.bundleEnclosing(process.programPath))
+            applications << foreignApplication(*bundle, process.userName);
+    }
+    return applications;
 }
 
 // The system may answer with a number that stands for whoever asks. Numbers are compared here as

@@ -12,14 +12,16 @@
 
 namespace zt {
 
+class Bundles;
 class ChildProcesses;
 
 class CarbonProcessManager final : public ProcessManager {
 public:
-    // The service outlives this object.
-    explicit CarbonProcessManager(ChildProcesses &childProcesses);
+    // The services outlive this object.
+    CarbonProcessManager(ChildProcesses &childProcesses, const Bundles &bundles);
 
     QList<ProcessSerialNumber> runningApplications() const override;
+    QList<ForeignApplication> applicationsOfOtherUsers() const override;
     std::optional<ProcessSerialNumber> currentProcess() const override;
     std::optional<ProcessSerialNumber> frontProcess() const override;
     std::optional<ProcessSerialNumber> processWithPid(std::int32_t pid) const override;
@@ -37,6 +39,7 @@ public:
 
 private:
     ChildProcesses &m_childProcesses;
+    const Bundles &m_bundles;
     std::unique_ptr<CarbonEventHandler> m_events;
 };
 

@@ -5,6 +5,9 @@
 
 #include "Platform/macos/FoundationText.h"
 #include "Platform/posix/LogLine.h"
+#include "Platform/posix/SystemCalls.h"
+
+#include <unistd.h> // STDERR_FILENO
 
 namespace zt {
 
@@ -13,6 +16,12 @@ void FoundationLog::writeLine(std::string_view message) {
     @autoreleasepool {
         NSLog(@"%@", nativeTextOf(QString::fromUtf8(line)));
     }
+    m_lines.add(line);
+}
+
+void FoundationLog::passOn(std::string_view lines) {
+    static_cast<void>(writeFully(STDERR_FILENO, lines));
+    m_lines.add(lines);
 }
 
 } // namespace zt

@@ -20,6 +20,7 @@
 #include "Platform/macos/GeneralPasteboard.h"
 #include "Platform/macos/GestaltSystemVersion.h"
 #include "Platform/macos/HidUserInput.h"
+#include "Platform/macos/PowerInterruptions.h"
 #include "Platform/macos/SecurityAuthorization.h"
 #include "Platform/macos/SharedFileListLoginItems.h"
 #include "Platform/macos/TaskChildProcesses.h"
@@ -50,7 +51,7 @@ struct NativePlatform::Services {
     WorkspaceTrash trash;
     CarbonWindowSystem windowSystem{blurPartsOfWindow};
     AppKitWorkspace workspace{log};
-    CarbonProcessManager processManager{childProcesses};
+    CarbonProcessManager processManager{childProcesses, bundles};
     AppKitRunningApplications runningApplications;
     AppleApplicationEvents applicationEvents;
     AxAccessibility accessibility;
@@ -60,6 +61,7 @@ struct NativePlatform::Services {
     GeneralPasteboard pasteboard;
     HidUserInput userInput;
     VolumeFileSystems fileSystems;
+    PowerInterruptions interruptions{log};
     AppKitSounds sounds; // goes first, with tasks that use the others
     Platform platform{.log = log,
                       .clock = clock,
@@ -82,7 +84,8 @@ struct NativePlatform::Services {
                       .menuBarEvents = menuBarEvents,
                       .pasteboard = pasteboard,
                       .userInput = userInput,
-                      .fileSystems = fileSystems};
+                      .fileSystems = fileSystems,
+                      .interruptions = interruptions};
 };
 
 // The arguments are a domain of the user defaults of Foundation already.

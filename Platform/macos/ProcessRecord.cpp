@@ -41,4 +41,17 @@ std::optional<double> parseProcessorTime(QByteArrayView text) {
     return double(minutes * secondsOfMinute + text.sliced(colon + 1).trimmed().toFloat());
 }
 
+QList<ListedProcess> parseProcessList(const QByteArray &text) {
+    QList<ListedProcess> processes;
+    for (const QByteArray &line : text.split('\n')) {
+        // A name of a user has no blanks, a path may have many.
+        const qsizetype nameEnd = line.indexOf(' ');
+        const QByteArray path = line.mid(nameEnd + 1).trimmed();
+        if (nameEnd > 0 && path.startsWith('/'))
+            processes << ListedProcess{QString::fromUtf8(line.first(nameEnd)),
+                                       QString::fromUtf8(path)};
+    }
+    return processes;
+}
+
 } // namespace zt

@@ -12,6 +12,7 @@ namespace zt {
 class VolumeFileSystems final : public FileSystems {
 public:
     Result<QString> typeNameFor(const QString &path) const override;
+    Result<std::uint64_t> availableBytesFor(const QString &path) const override;
 };
 
 } // namespace zt

@@ -110,6 +110,8 @@ int statfs(const char *path, struct statfs *volume) {
         errno = ENOENT;
         return -1;
     }
+    volume->f_bsize = 4096;
+    volume->f_bavail = standin::volumes.availableBlocks;
     std::strncpy(volume->f_fstypename, type->second.c_str(), sizeof volume->f_fstypename - 1);
     return 0;
 }

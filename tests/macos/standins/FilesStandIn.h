@@ -5,6 +5,7 @@
 
 // A stand-in for volumes and attributes of files.
 
+#include <cstdint>
 #include <map>
 #include <string>
 
@@ -12,6 +13,7 @@ namespace standin {
 
 struct Volumes {
     std::map<std::string, std::string> typeNames;  // by the path of an item on it
+    std::uint64_t availableBlocks = 0;             // of all of them, of 4096 bytes each
     std::map<std::string, std::string> attributes; // by "PATH NAME"
     int interruptions = 0;                         // how often the next question is interrupted
 };

@@ -16,6 +16,7 @@ namespace standin {
 
 std::map<OSType, SInt32> gestaltAnswers;
 Hid hid;
+Power power;
 std::optional<std::vector<std::optional<QString>>> loginItems;
 LaunchServices launchServices;
 Keyboard keyboard;
@@ -79,6 +80,7 @@ void UserInterfaces::notify(pid_t pid, const QString &notification, const QStrin
 void resetServices() {
     gestaltAnswers.clear();
     hid = {};
+    power = {};
     loginItems.reset();
     launchServices = {};
     keyboard = {};
@@ -140,6 +142,22 @@ kern_return_t IORegistryEntryCreateCFProperties(io_registry_entry_t entry,
 kern_return_t IOObjectRelease(io_object_t /*object*/) {
     --standin::hid.objects;
     return KERN_SUCCESS;
+}
+
+IOReturn IOPMAssertionCreateWithName(CFStringRef type, IOPMAssertionLevel level, CFStringRef name,
+                                     IOPMAssertionID *assertion) {
+    if (standin::power.answer != kIOReturnSuccess || level != kIOPMAssertionLevelOn)
+        return standin::power.answer;
+    static IOPMAssertionID last = kIOPMNullAssertionID;
+    *assertion = ++last;
+    standin::power.assertions[last] = {objectOf(type)->value.toString(),
+                                       objectOf(name)->value.toString()};
+    return kIOReturnSuccess;
+}
+
+IOReturn IOPMAssertionRelease(IOPMAssertionID assertion) {
+    standin::power.assertions.erase(assertion);
+    return kIOReturnSuccess;
 }
 
 CFStringRef kLSSharedFileListSessionLoginItems =

@@ -7,6 +7,7 @@
 
 #include <Carbon/Carbon.h>
 #include <IOKit/IOKitLib.h>
+#include <IOKit/pwr_mgt/IOPMLib.h>
 
 #include <QString>
 #include <QStringList>
@@ -30,6 +31,13 @@ struct Hid {
     int objects = 0; // handed out and not released
 };
 extern Hid hid;
+
+// Power management: the assertions in force, by type and name; none is made after an error.
+struct Power {
+    IOReturn answer = kIOReturnSuccess;
+    std::map<IOPMAssertionID, std::pair<QString, QString>> assertions;
+};
+extern Power power;
 
 // The login items: a path, or none for one that cannot be resolved. No list when there is no value.
 extern std::optional<std::vector<std::optional<QString>>> loginItems;

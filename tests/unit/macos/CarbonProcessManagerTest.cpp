@@ -4,6 +4,7 @@
 #include "Platform/macos/CarbonProcessManager.h"
 
 #include "tests/fakes/FakeChildProcesses.h"
+#include "tests/fakes/FakePlatform.h"
 #include "tests/unit/macos/StandInTest.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +17,8 @@ protected:
     }
 
     FakeChildProcesses childProcesses;
-    zt::CarbonProcessManager manager{childProcesses};
+    FakeBundles bundles;
+    zt::CarbonProcessManager manager{childProcesses, bundles};
 };
 
 TEST_F(CarbonProcessManagerTest, namesAreReadFromTheirOwnEncoding) {
@@ -105,4 +107,19 @@ TEST_F(CarbonProcessManagerTest, withoutEventsNothingIsHeard) {
     standin::eventHandlers.isRefusing = true;
     manager.setEventListener([](zt::ProcessManager::Event) { ADD_FAILURE(); });
     start({.pid = 5, .name = "a"});
+}
+
+TEST_F(CarbonProcessManagerTest, applicationsOfOthersAreFoundInTheListOfProcesses) {
+    bundles.add(u"/Applications/Sample Notes.app"_s,
+                {{u"CFBundleName"_s, u"Notes"_s}, {u"CFBundleSignature"_s, u"smPL"_s}});
+    childProcesses.child.output = "ann\n"
+                                  "ann      /Applications/Sample Notes.app/Contents/MacOS/Notes\n"
+                                  "_windows /usr/libexec/windows\n"
+                                  "ben      /Applications/Sample Notes.app/Contents/MacOS/Notes\n";
+    const QList<zt::ForeignApplication> expected = {
+        {.name = u"Notes"_s,
+         .signature = 0x736D504C,
+         .location = u"/Applications/Sample Notes.app"_s,
+         .userName = u"ben"_s}};
+    EXPECT_EQ(manager.applicationsOfOtherUsers(), expected);
 }

@@ -93,3 +93,11 @@ TEST(ProcessorTimeTest, minutesAndSecondsAreAddedUp) {
     for (const auto &[text, seconds] : rows)
         EXPECT_EQ(zt::parseProcessorTime(text), seconds) << text;
 }
+
+TEST(ProcessListTest, onlyProgramsWithAPathAreTaken) {
+    const QList<zt::ListedProcess> expected = {
+        {u"root"_s, u"/sbin/launchd"_s}, {u"ben"_s, u"/Applications/Sample Notes.app/Notes"_s}};
+    EXPECT_EQ(zt::parseProcessList("ann\nroot /sbin/launchd\nann (gone)\n\n /nobody\n"
+                                   "ben      /Applications/Sample Notes.app/Notes\n"),
+              expected);
+}

@@ -11,6 +11,7 @@
 #include "tests/desktop/environment/MenuBarEventsContract.h"
 #include "tests/desktop/environment/UserInputContract.h"
 #include "tests/fakes/FakeChildProcesses.h"
+#include "tests/fakes/FakePlatform.h"
 #include "tests/unit/macos/StandInTest.h"
 #include "tests/unit/platform/FileSystemsContract.h"
 #include "tests/unit/process/ProcessManagerContract.h"
@@ -39,7 +40,8 @@ struct ProcessManagerCase {
 
     StandIns standIns;
     FakeChildProcesses childProcesses;
-    zt::CarbonProcessManager manager{childProcesses};
+    FakeBundles bundles;
+    zt::CarbonProcessManager manager{childProcesses, bundles};
     std::int32_t lastPid = 1;
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(MacOS, ProcessManagerContractTest, ProcessManagerCase);
@@ -65,11 +67,15 @@ struct UserInputCase {
 INSTANTIATE_TYPED_TEST_SUITE_P(MacOS, UserInputContractTest, UserInputCase);
 
 struct FileSystemsCase {
-    FileSystemsCase() { standin::volumes.typeNames[path.toStdString()] = typeName.toStdString(); }
+    FileSystemsCase() {
+        standin::volumes.typeNames[path.toStdString()] = typeName.toStdString();
+        standin::volumes.availableBlocks = 3;
+    }
 
     StandIns standIns;
     QString path = QStringLiteral("/Applications");
     QString typeName = QStringLiteral("apfs");
+    std::uint64_t availableBytes = 12'288;
     zt::VolumeFileSystems fileSystems;
 };
 INSTANTIATE_TYPED_TEST_SUITE_P(MacOS, FileSystemsContractTest, FileSystemsCase);

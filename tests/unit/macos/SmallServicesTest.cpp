@@ -4,9 +4,11 @@
 #include "Platform/macos/GestaltSystemVersion.h"
 #include "Platform/macos/HidUserInput.h"
 #include "Platform/macos/LaunchServicesRegistration.h"
+#include "Platform/macos/PowerInterruptions.h"
 #include "Platform/macos/SharedFileListLoginItems.h"
 #include "Platform/macos/TextInputKeyboardLayout.h"
 
+#include "tests/fakes/FakePlatform.h"
 #include "tests/unit/macos/StandInTest.h"
 
 using namespace Qt::StringLiterals;
@@ -120,4 +122,25 @@ TEST_F(LaunchServicesRegistrationTest, errorsAreAnswered) {
     EXPECT_EQ(zt::registerWithLaunchServices(u"/Applications/Sample.app"_s), -10'811);
     EXPECT_EQ(zt::registerWithLaunchServices(u"/Applications/Sample Notes.app"_s), paramErr);
     EXPECT_EQ(standin::launchServices.registered.size(), 1U);
+}
+
+class PowerInterruptionsTest : public StandInTest {
+protected:
+    FakeLog log;
+    zt::PowerInterruptions interruptions{log};
+};
+
+TEST_F(PowerInterruptionsTest, sleepIsHeldOffAsLongAsTheHoldIsThere) {
+    auto hold = interruptions.holdOff(u"copying"_s);
+    ASSERT_EQ(standin::power.assertions.size(), 1U);
+    EXPECT_EQ(standin::power.assertions.begin()->second,
+              (std::pair{u"PreventUserIdleSystemSleep"_s, u"copying"_s}));
+    hold.reset();
+    EXPECT_TRUE(standin::power.assertions.empty());
+}
+
+TEST_F(PowerInterruptionsTest, whatCannotBeHeldOffIsTold) {
+    standin::power.answer = -536870206;
+    EXPECT_NE(interruptions.holdOff(u"copying"_s), nullptr);
+    EXPECT_EQ(log.lines(), QStringList{u"sleep is not held off: error -536870206"_s});
 }

@@ -84,8 +84,11 @@ using NSBitmapImageRepPropertyKey = NSString *;
 
 using NSWorkspaceFileOperationName = NSString *;
 extern "C" NSWorkspaceFileOperationName const NSWorkspaceRecycleOperation;
+extern NSNotificationName const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace *sharedWorkspace;
+@property(readonly, strong) NSNotificationCenter *notificationCenter;
+@property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
 - (BOOL)openFile:(NSString *)path;
 - (BOOL)openURL:(NSURL *)url;
 - (NSImage *)iconForFile:(NSString *)path;

@@ -12,6 +12,7 @@ extern "C" {
 struct statfs {
     std::uint32_t f_bsize;
     std::uint64_t f_blocks;
+    std::uint64_t f_bavail;
     char f_fstypename[16];
     char f_mntonname[1024];
 };
