@@ -12,12 +12,13 @@ Result<std::string> WorkspaceTrash::moveToTrash(const std::string &path) {
         NSString *const item =
             [[NSFileManager defaultManager] stringWithFileSystemRepresentation:path.data()
                                                                         length:path.size()];
-        const BOOL isMoved = item && [[NSWorkspace sharedWorkspace]
-                                         performFileOperation:NSWorkspaceRecycleOperation
-                                                       source:[item stringByDeletingLastPathComponent]
-                                                  destination:@""
-                                                        files:@[ item.lastPathComponent ]
-                                                          tag:nullptr];
+        const BOOL isMoved =
+            item && [[NSWorkspace sharedWorkspace]
+                        performFileOperation:NSWorkspaceRecycleOperation
+                                      source:[item stringByDeletingLastPathComponent]
+                                 destination:@""
+                                       files:@[ item.lastPathComponent ]
+                                         tag:nullptr];
         if (!isMoved)
             return Error{"move to the Trash", path, "the workspace refused"};
         return std::string();
