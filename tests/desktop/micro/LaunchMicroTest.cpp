@@ -4,10 +4,10 @@
 // The real helper, which takes the focus from a real window and gives it back.
 
 #include "Platform/linux/DesktopWorkspace.h"
-#include "Platform/portable/EventLoopClock.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/X11WindowSystem.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"

@@ -4,11 +4,11 @@
 // Quitting real programs with real windows, on the real clock.
 
 #include "Platform/linux/BusApplicationEvents.h"
-#include "Platform/portable/EventLoopClock.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/PidfdRunningApplications.h"
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/X11WindowSystem.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 

@@ -4,10 +4,10 @@
 // Running copies are quit on one thread, while the main thread hears of processes that come and go.
 
 #include "Platform/linux/BusApplicationEvents.h"
-#include "Platform/portable/EventLoopClock.h"
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/PidfdRunningApplications.h"
 #include "Platform/linux/ProcProcessManager.h"
+#include "Platform/portable/EventLoopClock.h"
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
