@@ -4,17 +4,15 @@
 #include "Platform/macos/ItemCopy.h"
 
 #include "Platform/posix/SystemCalls.h"
+#include "Platform/posix/TreeSize.h"
 
 #include <copyfile.h>
-#include <dirent.h>
 #include <removefile.h>
-#include <sys/stat.h>
 #include <sys/types.h>
 
 #include <algorithm>
 #include <memory>
 #include <optional>
-#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -26,28 +24,6 @@ struct CopyStateDeleter {
     void operator()(copyfile_state_t state) const { copyfile_state_free(state); }
 };
 using CopyState = std::unique_ptr<std::remove_pointer_t<copyfile_state_t>, CopyStateDeleter>;
-
-struct FolderDeleter {
-    void operator()(DIR *folder) const { ::closedir(folder); }
-};
-
-// The bytes of all files in it. What cannot be read counts nothing; the copy will tell.
-std::uint64_t sizeOfTree(const std::string &path) {
-    struct stat status = {};
-    if (::lstat(path.c_str(), &status) != 0)
-        return 0;
-    if (S_ISREG(status.st_mode))
-        return std::uint64_t(status.st_size);
-    std::uint64_t size = 0;
-    const std::unique_ptr<DIR, FolderDeleter> folder(
-        S_ISDIR(status.st_mode) ? ::opendir(path.c_str()) : nullptr);
-    while (const dirent *const entry = folder ? ::readdir(folder.get()) : nullptr) {
-        const std::string_view name = entry->d_name;
-        if (name != "." && name != "..")
-            size += sizeOfTree(path + '/' + entry->d_name);
-    }
-    return size;
-}
 
 // Follows one copy: counts its bytes, and ends it when that is wanted.
 class CopyWatch {
@@ -104,7 +80,11 @@ Error stoppedCopyError(std::string path) {
 
 Result<void> copyItem(const std::string &source, const std::string &target,
                       const ItemCopyOrders &orders) {
-    CopyWatch watch(orders, orders.progress ? sizeOfTree(source) : 0);
+    // What cannot be read counts nothing; the copy will tell.
+    const Result<std::uint64_t> size = orders.progress
+                                           ? treeSize({AT_FDCWD, source, source}, orders.stop)
+                                           : Result<std::uint64_t>(0);
+    CopyWatch watch(orders, size ? *size : 0);
     const CopyState state(copyfile_state_alloc());
     if (!state)
         return Error::fromErrno("copy", source, ENOMEM);
