@@ -19,6 +19,10 @@ namespace zt {
 // by itself. Thread: main, first of all.
 std::jthread beginPreparingTexts();
 
+// Whether there is a screen to show windows on, as far as can be told before the application object
+// is made, which ends the program where there is none. Thread: main, first of all.
+bool canShowWindows();
+
 // Owns one of each service. Create it on the main thread after the application object, and let it
 // live as long as any service is used.
 class NativePlatform {

@@ -14,22 +14,13 @@
 
 #include <cstdio>
 
-namespace {
-
-bool hasDisplay() {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-}
-
-} // namespace
-
 int applicationMain(int argumentCount, char **argumentVector) {
     QStringList arguments;
     for (int i = 0; i < argumentCount; ++i)
         arguments << QString::fromLocal8Bit(argumentVector[i]);
     if (const RunChoice choice = runChoice(arguments); choice.mode != RunMode::Window)
         return runWithoutWindow(choice, arguments);
-    if (!hasDisplay()) {
+    if (!zt::canShowWindows()) {
         std::fputs("VelmoraInstaller: there is no screen to show a window on. Start it from a "
                    "desktop session, or set DISPLAY.\n",
                    stderr);

@@ -7,10 +7,30 @@
 #include "Platform/Platform.h"
 #include "Platform/UserDefaults.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QLibraryInfo>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The file in the language, by preference in that of the country; empty when there is none. Nobody
+// can read the language in another script, but everybody in the way of another country.
+QString fileForLanguage(const QLocale &language, const QString &folder) {
+    const QString prefix = u"VelmoraInstaller_"_s;
+    QString found;
+    for (const QString &name : QDir(folder).entryList({prefix + u"*.qm"_s}, QDir::Files)) {
+        const QLocale candidate(name.sliced(prefix.size()).chopped(3));
+        if (candidate.language() != language.language() || candidate.script() != language.script())
+            continue;
+        if (found.isEmpty() || candidate.territory() == language.territory())
+            found = name;
+    }
+    return found;
+}
+
+} // namespace
 
 QStringList Translations::preferredLanguages(const zt::UserDefaults &userDefaults) {
     if (const auto chosen = userDefaults.objectForKey(u"AppleLanguages"_s))
@@ -44,11 +64,11 @@ Translations::~Translations() {
 }
 
 bool Translations::load(const QStringList &languages, const QString &folder) {
-    for (QString name : languages) {
+    for (const QString &name : languages) {
         if (QLocale(name).language() == QLocale::English || name == u"C")
             return false;
-        name.replace(u'-', u'_');
-        if (m_translator.load(u"VelmoraInstaller_"_s + name, folder))
+        const QString file = fileForLanguage(QLocale(name), folder);
+        if (!file.isEmpty() && m_translator.load(file, folder))
             return true;
     }
     return false;

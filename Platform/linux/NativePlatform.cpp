@@ -64,6 +64,11 @@ std::jthread beginPreparingTexts() {
     return std::jthread([] { FcInit(); }); // which is known to work on several threads
 }
 
+bool canShowWindows() {
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
 struct NativePlatform::Services {
     explicit Services(const QStringList &arguments)
         : userDefaults(arguments, configurationFolder(), settingsDomain(bundles.mainBundle()),

@@ -39,6 +39,10 @@ std::jthread beginPreparingTexts() {
 }
 
 // Members are made in this order and go in the opposite one.
+bool canShowWindows() {
+    return true; // a program without one would not have been started
+}
+
 struct NativePlatform::Services {
     FoundationLog log;
     EventLoopClock clock;
