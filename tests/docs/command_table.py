@@ -62,7 +62,8 @@ TABLE = (
     ),
     Replaced(
         r"ctest --preset dev (.*)",
-        r"""ctest --test-dir "$VELMORA_BUILD" --show-only \1 | grep "Total Tests: [1-9]" """,
+        r"""ctest --test-dir "$VELMORA_BUILD" --show-only \1 | tail -n 1 | tee /dev/stderr |"""
+        r""" grep --quiet "Total Tests: [1-9]" """,
         "these tests are running just now; that there are such tests is looked at",
     ),
     Looked(r"scripts/check( --\w+)?", "runs this test"),
