@@ -97,7 +97,7 @@ private:
     // Start-up, step by step.
     void fillIcon();
     void fillTexts();
-    void fillReadMe();
+    void fillReadMe(const QString &path);
     void showWindow();
     // Makes the window taller when the main page needs it, as far as the screen allows.
     void growToFit();

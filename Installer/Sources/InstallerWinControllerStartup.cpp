@@ -60,9 +60,15 @@ void InstallerWinController::awakeFromNib() {
         return;
     }
     fillTexts();
-    fillReadMe();
     m_ui.checkmarkField->hide();
+    const auto readMe = argument(ZTInstallerKeyReadMePath);
+    const bool hasReadMe = readMe && QFileInfo::exists(*readMe);
+    selectTab(hasReadMe ? ReadMePage : MainPage);
     showWindow();
+    // The text is laid out once, in the size that it has now, and while the window manager makes
+    // room for the window.
+    if (hasReadMe)
+        fillReadMe(*readMe);
     if (!systemIsSupported())
         showSystemVersionAlert();
 }
@@ -104,15 +110,10 @@ void InstallerWinController::fillTexts() {
     m_ui.messageField->hide();
 }
 
-void InstallerWinController::fillReadMe() {
-    const auto path = argument(ZTInstallerKeyReadMePath);
-    if (!path || !QFileInfo::exists(*path)) {
-        selectTab(MainPage);
-        return;
-    }
+void InstallerWinController::fillReadMe(const QString &path) {
     ZTViewExtensions::useLightAquaAppearance(*m_ui.readMeTextView,
                                              ZTViewExtensions::LightAppearance::Forced);
-    if (auto document = AttributedDocument::load(*path)) {
+    if (auto document = AttributedDocument::load(path)) {
         (*document)->setParent(m_ui.readMeTextView);
         (*document)->setDocumentMargin(readMeMargin);
         m_ui.readMeTextView->setDocument(document->release());
@@ -121,9 +122,8 @@ void InstallerWinController::fillReadMe() {
         m_ui.readMeTextView->setPlainText(
             ZTFormat(localizedString("The read-me could not be shown. You can open it yourself; it "
                                      "is here:\n%@"),
-                     *path));
+                     path));
     }
-    selectTab(ReadMePage);
 }
 
 void InstallerWinController::showWindow() {
