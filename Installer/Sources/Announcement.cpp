@@ -20,7 +20,7 @@ public:
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Name)
             return QAccessibleWidget::text(kind);
-        const QString text = widget()->property(announcedText).toString();
+        QString text = widget()->property(announcedText).toString();
         if (!text.isEmpty())
             return text;
         const auto *label = qobject_cast<QLabel *>(widget());

@@ -35,9 +35,10 @@ ForecastLine spaceLine(const Forecast::Space &space) {
                                          "need."),
                          sizeText(*space.needed), sizeText(*space.available))};
     }
-    if (!space.available)
+    if (!space.available) {
         return {Kind::Notice,
                 ZTFormat(localizedString("%@ of space are needed."), sizeText(*space.needed))};
+    }
     return {Kind::Notice, ZTFormat(localizedString("%1$@ of space are needed; %2$@ are free."),
                                    sizeText(*space.needed), sizeText(*space.available))};
 }
@@ -60,10 +61,11 @@ ForecastLine existingCopyLine(const Forecast::ExistingCopy &copy) {
         text = localizedString("The older version %@, which is there now, is moved to the Trash.");
     if (copy.ordering == Ordering::Same)
         text = localizedString("The same version, %@, is there now and is moved to the Trash.");
-    if (copy.ordering == Ordering::Descending)
+    const bool isNewer = copy.ordering == Ordering::Descending;
+    if (isNewer) {
         text = localizedString("A newer version, %@, is there now. Install only if you want the "
                                "older one back.");
-    const bool isNewer = copy.ordering == Ordering::Descending;
+    }
     return {isNewer ? Kind::Problem : Kind::Notice, ZTFormat(text, *copy.version)};
 }
 
