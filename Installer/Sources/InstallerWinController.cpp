@@ -82,9 +82,10 @@ void InstallerWinController::selectTab(int pageIndex) {
                                          : localizedString("Continue"));
     describeInstallButton();
     const bool hasReadMe = arguments().contains(ZTInstallerKeyReadMePath);
-    if (hasReadMe)
+    if (hasReadMe) {
         m_ui.cancelButton->setText(mainPage ? localizedString("Go Back")
                                             : localizedString("Cancel"));
+    }
     m_ui.cancelButton->setAccessibleDescription(mainPage && hasReadMe
                                                     ? localizedString("Returns to the read-me.")
                                                     : localizedString("Quits without installing."));

@@ -88,11 +88,12 @@ bool DesktopWorkspace::openFile(const QString &path) {
 // A document's handler is found by a program of its own: that may ask the bus, or a file system
 // that does not answer.
 void DesktopWorkspace::startOpening(const QString &path) {
-    if (const auto bundle = m_services.bundles.bundleAtPath(path))
+    if (const auto bundle = m_services.bundles.bundleAtPath(path)) {
         launchBundle(*bundle, m_folders.home);
-    else if (!path.isEmpty() && QFileInfo::exists(path))
+    } else if (!path.isEmpty() && QFileInfo::exists(path)) {
         launchProgram({u"/usr/bin/gio"_s, u"open"_s, QFileInfo(path).absoluteFilePath()},
                       m_folders.home);
+    }
 }
 
 std::optional<QString> DesktopWorkspace::targetOfAlias(const QString &path) const {

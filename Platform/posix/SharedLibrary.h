@@ -31,6 +31,7 @@ private:
 };
 
 // A member of a struct with a SharedLibrary called `file`: the library's function of that name.
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the name is that of the member
 #define VELMORA_IMPORT(name) decltype(&::name) name = file.function<decltype(&::name)>(#name)
 
 } // namespace zt

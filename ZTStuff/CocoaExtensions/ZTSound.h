@@ -35,6 +35,7 @@ public:
     static Pointer soundNamed(const QString &name,
                               const zt::Platform &platform = zt::currentPlatform());
 
+    ~ZTSound() = default;
     ZTSound(const ZTSound &) = delete;
     ZTSound &operator=(const ZTSound &) = delete;
 
