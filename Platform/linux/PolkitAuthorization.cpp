@@ -130,9 +130,10 @@ std::int32_t PolkitAuthorizationReference::refusal() {
     const QByteArray words = m_process.readAllStandardError().simplified();
     if (m_process.exitCode() != notRun)
         return fail(AuthorizationStatus::internal, "the tool did not say that it runs: " + words);
-    if (words.contains("authentication agent"))
+    if (words.contains("authentication agent")) {
         return fail(AuthorizationStatus::interactionNotAllowed,
                     "nobody could be asked, for no authentication agent runs in this session");
+    }
     if (!words.contains("Not authorized"))
         return fail(AuthorizationStatus::internal, words);
     switch (polkitAnswerForTool(QFile::decodeName(m_tool->path().c_str()))) {

@@ -124,10 +124,11 @@ void PortalAppearance::askForContrast() {
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         watcher->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
-        if (!reply.isError())
+        if (!reply.isError()) {
             setContrast(isMoreContrast(QVariant::fromValue(reply.value())));
-        else if (!isLate(reply.error()))
+        } else if (!isLate(reply.error())) {
             setContrast(moreContrastInSettingsFiles(m_configurationFolder));
+        }
     });
 }
 
@@ -170,10 +171,11 @@ std::optional<AccentColor> PortalAppearance::accentColor() const {
 }
 
 void PortalAppearance::setChangeListener(const void *owner, std::function<void()> changed) {
-    if (changed)
+    if (changed) {
         m_listeners[owner] = std::move(changed);
-    else
+    } else {
         m_listeners.erase(owner);
+    }
 }
 
 void PortalAppearance::settingChanged(const QString &group, const QString &key,

@@ -25,9 +25,8 @@ public:
         if (offset > size() || size() - offset < width)
             return std::nullopt;
         std::uint32_t value = 0;
-        for (unsigned index = 0; index < width; ++index)
-            value = value << 8 |
-                    static_cast<std::uint8_t>(m_bytes[static_cast<qsizetype>(offset + index)]);
+        for (const char byte : m_bytes.sliced(static_cast<qsizetype>(offset), width))
+            value = value << 8 | static_cast<std::uint8_t>(byte);
         return value;
     }
 

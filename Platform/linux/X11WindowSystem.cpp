@@ -152,10 +152,11 @@ void X11WindowSystem::setHidden(std::int32_t pid, bool hidden) {
     const X11Connection &server = *connection();
     const xcb_atom_t changeState = internAtom(server, "WM_CHANGE_STATE");
     for (const X11ClientWindow &window : windows) {
-        if (hidden)
+        if (hidden) {
             minimize(server, window, changeState);
-        else
+        } else {
             restore(server, window);
+        }
     }
     xcb_flush(server.get());
 }

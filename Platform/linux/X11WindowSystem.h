@@ -29,7 +29,7 @@ public:
 
     QList<std::int32_t> processesWithWindows() const override;
     std::optional<std::int32_t> frontProcess() const override;
-    void bringToFront(std::int32_t pid, Windows windows) override;
+    void bringToFront(std::int32_t pid, Windows which) override;
     void setHidden(std::int32_t pid, bool hidden) override;
     int requestClose(std::int32_t pid) override;
     void setChangeListeners(std::function<void()> frontChanged,
