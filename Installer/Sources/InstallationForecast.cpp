@@ -5,12 +5,12 @@
 
 #include "Installer/Sources/Installation.h"
 
+#include "Installer/Sources/ProgramsToQuit.h"
 #include "Platform/FileSystems.h"
 #include "Platform/ProcessManager.h"
 #include "Platform/posix/TreeSize.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/PathComponents.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
-#include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
 #include <QFile>
@@ -42,19 +42,17 @@ std::optional<std::uint64_t> sizeOf(const QString &item, const std::stop_token &
 }
 
 QList<Forecast::RunningCopy> runningCopies(const zt::ProcessManager &processManager,
-                                           const QStringList &codes) {
+                                           const ProgramsToQuit &toQuit) {
     QList<Forecast::RunningCopy> copies;
-    const auto self = ZTProcess::currentProcess();
     for (const auto &process : ZTProcess::allProcesses()) {
-        if (!Installation::signatureIsInArray(process->signature(), codes) ||
-            process->isEqual(self.get()))
+        if (!toQuit.contain(*process))
             continue;
         copies << Forecast::RunningCopy{.name = process->name().value_or(QString()),
                                         .path = process->path().value_or(QString()),
                                         .otherUser = std::nullopt};
     }
     for (const zt::ForeignApplication &application : processManager.applicationsOfOtherUsers()) {
-        if (!Installation::signatureIsInArray(application.signature, codes))
+        if (!toQuit.contain(application.signature))
             continue;
         copies << Forecast::RunningCopy{.name = application.name,
                                         .path = application.location,
@@ -86,8 +84,9 @@ Forecast Installation::forecast(const std::stop_token &stop) const {
         .version = version(),
         .source = sourcePath(),
         .destination = destination,
-        .runningCopies = runningCopies(m_platform.processManager,
-                                       m_arguments.value(ZTInstallerKeyQuitCode).toStringList()),
+        .runningCopies =
+            runningCopies(m_platform.processManager,
+                          ProgramsToQuit(m_arguments.value(ZTInstallerKeyQuitCode).toStringList())),
         .existingCopy = existingCopyAt(destination, m_platform.bundles, version()),
         .space = {},
         .needsAdministrator = !canWriteToPath(destination),

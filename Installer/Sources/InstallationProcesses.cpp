@@ -3,10 +3,10 @@
 
 #include "Installer/Sources/Installation.h"
 
+#include "Installer/Sources/ProgramsToQuit.h"
 #include "Platform/Clock.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTInstallerInterface.h"
-#include "ZTStuff/ZTClasses/ZTProcess.h"
 
 #include <algorithm>
 
@@ -19,10 +19,9 @@ bool Installation::signatureIsInArray(FourCharCode signature, const QStringList 
 }
 
 void Installation::quitProcesses() const {
-    const QStringList codes = m_arguments.value(ZTInstallerKeyQuitCode).toStringList();
-    const auto self = ZTProcess::currentProcess();
+    const ProgramsToQuit toQuit(m_arguments.value(ZTInstallerKeyQuitCode).toStringList());
     for (const auto &process : ZTProcess::allProcesses()) {
-        if (!signatureIsInArray(process->signature(), codes) || process->isEqual(self.get()))
+        if (!toQuit.contain(*process))
             continue;
         ZTLog("Quitting '%@': %@", process->signatureString(), process->name());
         process->quit();
@@ -32,10 +31,9 @@ void Installation::quitProcesses() const {
 }
 
 std::optional<QString> Installation::processToQuitStillRunning() const {
-    const QStringList codes = m_arguments.value(ZTInstallerKeyQuitCode).toStringList();
-    const auto self = ZTProcess::currentProcess();
+    const ProgramsToQuit toQuit(m_arguments.value(ZTInstallerKeyQuitCode).toStringList());
     for (const auto &process : ZTProcess::allProcesses()) {
-        if (!signatureIsInArray(process->signature(), codes) || process->isEqual(self.get()))
+        if (!toQuit.contain(*process))
             continue;
         auto name = process->name();
         ZTLog("Still running '%@': %@", process->signatureString(), name);
