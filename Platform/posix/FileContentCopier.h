@@ -41,6 +41,7 @@ private:
     Outcome copyRangeByHand(std::uint64_t position, std::uint64_t end);
     Outcome checkUnchanged(const struct stat &before) const;
     bool clone();
+    bool reserve(std::uint64_t size) const;
 
     CopyAbilities &m_abilities;
     CopyProgressMeter &m_meter;
