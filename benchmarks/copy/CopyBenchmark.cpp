@@ -105,7 +105,9 @@ void CopyBenchmark::raceAll(const Volume &volume, const std::string &name,
                             const std::string &source, const std::vector<Contestant> &peers,
                             int rounds) {
     const TreeList list = zt::listTree(source);
-    std::vector<Contestant> all = {zt::ourCopy(), zt::floorOf(list)};
+    const std::vector<std::string> contents = zt::contentsOf(source, list);
+    const Contestant floor = zt::floorOf(list, contents);
+    std::vector<Contestant> all = {zt::ourCopy(), floor};
     all.insert(all.end(), peers.begin(), peers.end());
     const Times times = zt::race(volume, source, all, rounds);
     describe(name, list, times);
@@ -113,7 +115,7 @@ void CopyBenchmark::raceAll(const Volume &volume, const std::string &name,
         if (times.contains(peer.name))
             print(name, ("ratio_to_" + peer.name).c_str(), zt::ratio(times, zt::ourCopy(), peer));
     }
-    print(name, "ratio_to_floor", zt::ratio(times, zt::ourCopy(), zt::floorOf(list)));
+    print(name, "ratio_to_floor", zt::ratio(times, zt::ourCopy(), floor));
     noteMemory(volume, source);
 }
 

@@ -42,24 +42,22 @@ std::string randomBytes() {
     return bytes;
 }
 
-bool writeBytes(const std::string &path, std::uint64_t size, mode_t mode,
-                const std::string &bytes) {
-    const UniqueFd file = openAt(AT_FDCWD, path.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
-    for (std::uint64_t left = size; file && left > 0;) {
-        const std::size_t part = std::min<std::uint64_t>(left, bytes.size());
-        if (!writeFully(file.get(), std::string_view(bytes).substr(0, part)))
-            return false;
-        left -= part;
-    }
-    return static_cast<bool>(file);
+[[noreturn]] void endWith(const std::string &path) {
+    std::perror(path.c_str());
+    std::exit(EXIT_FAILURE); // NOLINT(concurrency-mt-unsafe)
 }
 
 void writeOrEnd(const std::string &path, std::uint64_t size, mode_t mode,
                 const std::string &bytes) {
-    if (writeBytes(path, size, mode, bytes))
-        return;
-    std::perror(path.c_str());
-    std::exit(EXIT_FAILURE); // NOLINT(concurrency-mt-unsafe)
+    const UniqueFd file = openAt(AT_FDCWD, path.c_str(), O_WRONLY | O_CREAT | O_EXCL, mode);
+    if (!file)
+        endWith(path);
+    for (std::uint64_t left = size; left > 0;) {
+        const std::size_t part = std::min<std::uint64_t>(left, bytes.size());
+        if (!writeFully(file.get(), std::string_view(bytes).substr(0, part)))
+            endWith(path);
+        left -= part;
+    }
 }
 
 // Sizes with the median and the sum that are asked for. The wider they are spread, the larger is
@@ -140,8 +138,21 @@ TreeList listTree(const std::string &path) {
     return list;
 }
 
-bool writeSameBytes(const TreeList &list, const std::string &target) {
-    const std::string bytes = randomBytes();
+std::vector<std::string> contentsOf(const std::string &path, const TreeList &list) {
+    std::vector<std::string> contents;
+    contents.reserve(list.files.size());
+    for (const TreeList::File &file : list.files) {
+        std::string &bytes = contents.emplace_back(file.size, '\0');
+        const UniqueFd source = openAt(AT_FDCWD, (path + file.path).c_str(), O_RDONLY);
+        if (!source || readFully(source.get(), bytes.data(), bytes.size()) !=
+                           static_cast<ssize_t>(bytes.size()))
+            endWith(path + file.path);
+    }
+    return contents;
+}
+
+bool writeSameBytes(const TreeList &list, const std::vector<std::string> &contents,
+                    const std::string &target) {
     if (::mkdir(target.c_str(), 0755) != 0)
         return false;
     for (const std::string &folder : list.folders) {
@@ -157,7 +168,9 @@ bool writeSameBytes(const TreeList &list, const std::string &target) {
         for (std::size_t begin = 0; (begin = next.fetch_add(step)) < list.files.size();) {
             const std::size_t end = std::min(begin + step, list.files.size());
             for (std::size_t i = begin; i < end; ++i) {
-                if (!writeBytes(target + list.files[i].path, list.files[i].size, 0644, bytes))
+                const UniqueFd file = openAt(AT_FDCWD, (target + list.files[i].path).c_str(),
+                                             O_WRONLY | O_CREAT | O_EXCL, 0644);
+                if (!file || !writeFully(file.get(), contents[i]))
                     succeeded = false;
             }
         }

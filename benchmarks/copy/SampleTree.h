@@ -33,8 +33,13 @@ void makeLargeFiles(const std::string &path, std::uint64_t smallest);
 
 TreeList listTree(const std::string &path);
 
-// Writes files of the same sizes, with two threads and as few calls as that takes. Nothing that
-// makes such a tree can be much faster. Whether it succeeded.
-bool writeSameBytes(const TreeList &list, const std::string &target);
+// The bytes of the listed files of a tree, in the list's order and in memory that nothing else has
+// touched lately: a copy does not find them in the caches of a core either.
+std::vector<std::string> contentsOf(const std::string &path, const TreeList &list);
+
+// Writes files of these bytes, with two threads and as few calls as that takes. Nothing that makes
+// such a tree can be much faster. Whether it succeeded.
+bool writeSameBytes(const TreeList &list, const std::vector<std::string> &contents,
+                    const std::string &target);
 
 } // namespace zt
