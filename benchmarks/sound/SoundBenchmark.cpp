@@ -14,7 +14,7 @@
 
 #include "benchmarks/BenchLine.h"
 #include "benchmarks/Median.h"
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/sound/SoundServer.h"
 #include "tests/unit/sound/SoundFiles.h"
 
@@ -82,7 +82,7 @@ double untilHeard(const std::function<void()> &begin) {
     SoundRecorder recorder(SoundServer::speakers);
     const auto begun = Clock::now();
     begin();
-    if (!comesToHold([&recorder] { return recorder.peak() > 0.05F; })) {
+    if (!eventually([&recorder] { return recorder.peak() > 0.05F; })) {
         std::fputs("Nothing was heard.\n", stderr);
         std::exit(1);
     }
@@ -99,7 +99,7 @@ double untilProgramIsHeard(const QString &program, const QStringList &arguments)
 double untilEffectIsHeard(const QString &file) {
     const ZTSound::Pointer sound = ZTSound::soundWithContentsOfFile(file);
     const double heard = untilHeard([&] { SoundExtensions::playAsSoundEffect(*sound); });
-    comesToHold([&] { return !sound->isPlaying(); });
+    static_cast<void>(eventually([&] { return !sound->isPlaying(); }));
     return heard;
 }
 
@@ -130,8 +130,8 @@ void compareFirstSamples(const QString &file) {
         {
             const FreshProgram program;
             SoundExtensions::playSilentSoundThread();
-            comesToHold(SoundServer::isPlaying);
-            comesToHold([] { return !SoundServer::isPlaying(); });
+            static_cast<void>(eventually(SoundServer::isPlaying));
+            static_cast<void>(eventually([] { return !SoundServer::isPlaying(); }));
             warm.add(untilEffectIsHeard(file));
         }
         ours.add(untilProgramIsHeard(QCoreApplication::applicationFilePath(), {u"play"_s, file}));

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/Waiting.h"
 #include "tests/unattended/ProgramFixture.h"
 
 #include <QDir>
@@ -181,8 +182,7 @@ class UnattendedSignalTest : public UnattendedWithObstinateCopyTest,
 TEST_P(UnattendedSignalTest, aRequestToEndCancelsIt) {
     const auto process = installer(unattended());
     process->start();
-    ASSERT_TRUE(
-        QTest::qWaitFor([this] { return log().contains("Quitting '" + signature()); }, 60'000));
+    ASSERT_TRUE(eventually([this] { return log().contains("Quitting '" + signature()); }));
     ASSERT_EQ(kill(pid_t(process->processId()), GetParam()), 0);
     const Run done = finish(*process);
     EXPECT_EQ(done.status, 1);

@@ -12,7 +12,7 @@
 #include "ZTStuff/ZTClasses/ZTDynamicColor.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 
 #include <QApplication>
 #include <QImage>
@@ -57,7 +57,7 @@ protected:
     }
 
     static bool shows(const QWidget &view, QRgb color) {
-        return comesToHold([&] { return pixelOf(view) == color; });
+        return eventually([&] { return pixelOf(view) == color; });
     }
 
     // Runs a program that acts upon the screen, and answers what it prints.

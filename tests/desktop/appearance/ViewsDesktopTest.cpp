@@ -5,6 +5,7 @@
 
 #include "ZTStuff/CocoaExtensions/ScrollAnimation.h"
 #include "ZTStuff/CocoaExtensions/VisualEffectView.h"
+#include "tests/Waiting.h"
 
 #include "tests/desktop/appearance/ScreenFixture.h"
 
@@ -43,7 +44,7 @@ TEST_F(ViewsDesktopTest, anAnimationIsSeenOnItsWayAndEndsExactly) {
                      [&places](int place) { places.append(place); });
     const int seen = area.viewport()->height();
     ASSERT_TRUE(animatedVerticalScrollRectToVisible(*contents, {0, 3000, 10, 77}, PreferTop::No));
-    EXPECT_TRUE(comesToHold([&area] { return area.findChild<ScrollAnimation *>() == nullptr; }));
+    EXPECT_TRUE(eventually([&area] { return area.findChild<ScrollAnimation *>() == nullptr; }));
     ASSERT_FALSE(places.isEmpty());
     EXPECT_EQ(places.constLast(), 3077 - seen);
     EXPECT_EQ(area.horizontalScrollBar()->value(), 0);
@@ -63,12 +64,12 @@ TEST_F(ViewsDesktopTest, theMouseWheelTakesOver) {
     QObject::connect(area.verticalScrollBar(), &QScrollBar::actionTriggered, &area,
                      [&hasUserScrolled] { hasUserScrolled = true; });
     // Far enough for the wheel to come in time; if it does not, it is tried once more.
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         area.verticalScrollBar()->setValue(0);
         hasUserScrolled = false;
         scrollPointAnimated(*contents, {0, 49'000});
         run(u"xdotool"_s, {u"click"_s, u"5"_s});
-        return comesToHold([&] {
+        return eventually([&] {
                    return area.findChild<ScrollAnimation *>() == nullptr && hasUserScrolled;
                }) &&
                area.verticalScrollBar()->value() < 49'000;
@@ -89,12 +90,12 @@ TEST_F(ViewsDesktopTest, aViewInFrontTakesTheClicksAndKeepsTheKeyboard) {
     show(window);
     const QPoint both = window.mapToGlobal(QPoint(150, 50));
     click(both);
-    EXPECT_TRUE(comesToHold([&clicks] { return clicks == 1; }));
+    EXPECT_TRUE(eventually([&clicks] { return clicks == 1; }));
     bringToFrontInsideSuperView(*field);
     QApplication::processEvents();
     click(both);
     run(u"xdotool"_s, {u"key"_s, u"a"_s});
-    EXPECT_TRUE(comesToHold([field] { return field->text() == u"a"; }));
+    EXPECT_TRUE(eventually([field] { return field->text() == u"a"; }));
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(field->geometry(), QRect(0, 0, 200, 100));
 }
@@ -109,7 +110,7 @@ TEST_F(ViewsDesktopTest, aWrappedFieldGoesOnTakingTheKeyboard) {
     wrapInVisualEffectView(*field);
     QApplication::processEvents();
     run(u"xdotool"_s, {u"key"_s, u"b"_s});
-    EXPECT_TRUE(comesToHold([field] { return field->text() == u"b"; }));
+    EXPECT_TRUE(eventually([field] { return field->text() == u"b"; }));
 }
 
 TEST_F(ViewsDesktopTest, theCompositorIsToldWhatToBlur) {
@@ -128,9 +129,9 @@ TEST_F(ViewsDesktopTest, theCompositorIsToldWhatToBlur) {
     // As a compositor says that it does.
     run(u"xprop"_s, {u"-root"_s, u"-format"_s, hint, u"32c"_s, u"-set"_s, hint, u"0"_s});
     effectView->resize(100, 60);
-    EXPECT_TRUE(comesToHold([&] { return hintOf(window).contains("= 10, 20, 100, 60\n"); }));
+    EXPECT_TRUE(eventually([&] { return hintOf(window).contains("= 10, 20, 100, 60\n"); }));
     effectView->hide();
-    EXPECT_TRUE(comesToHold([&] { return hintOf(window).contains("not found"); }));
+    EXPECT_TRUE(eventually([&] { return hintOf(window).contains("not found"); }));
 }
 
 TEST_F(ViewsDesktopTest, aScaledViewIsDrawnLarger) {

@@ -11,8 +11,8 @@
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
+#include "tests/Waiting.h"
 #include "tests/desktop/environment/SelectionOwner.h"
-#include "tests/desktop/process/DesktopWait.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
 
@@ -57,7 +57,7 @@ protected:
     }
 
     static bool comesToFront(const RunningProgram &program) {
-        return comesToHold([&] { return frontPid() == program.pid(); });
+        return eventually([&] { return frontPid() == program.pid(); });
     }
 
     static std::string clipboard() {
@@ -68,7 +68,7 @@ protected:
     // In the field that has the keyboard.
     static void typeAndCopy(const std::string &text) {
         // A program that is in front may still be about to give a field the keyboard.
-        ASSERT_TRUE(comesToHold([&] {
+        ASSERT_TRUE(eventually([&] {
             press("ctrl+a");
             RunningProgram typing({"xdotool", "type", text});
             EXPECT_EQ(typing.waitForEnd(), 0);
@@ -116,7 +116,7 @@ TEST_F(EnvironmentDesktopTest, theWatcherSeesWhatNobodyAsksAbout) {
     ZTUtilities::initialize();
     bool isWatching = false;
     native.services().clock.callAfter(std::chrono::milliseconds(1001), [&] { isWatching = true; });
-    ASSERT_TRUE(comesToHold([&] { return isWatching; }));
+    ASSERT_TRUE(eventually([&] { return isWatching; }));
     // Two turns go by in which the question is not asked.
     const RunningProgram notes({WINDOWED_PROGRAM, "closes"});
     ASSERT_TRUE(comesToFront(notes));
@@ -124,12 +124,12 @@ TEST_F(EnvironmentDesktopTest, theWatcherSeesWhatNobodyAsksAbout) {
     bool hasBeenTold = false;
     const auto observation = NotificationCenter::defaultCenter().addObserver(
         ZTProcessChangeNotification, [&](const Notification &) { hasBeenTold = true; });
-    ASSERT_TRUE(comesToHold([&] { return hasBeenTold; }));
+    ASSERT_TRUE(eventually([&] { return hasBeenTold; }));
     typeAndCopy("from the notes");
     hasBeenTold = false;
     const RunningProgram message({"xmessage", "-title", "message", "Hello"});
     ASSERT_TRUE(comesToFront(message));
-    ASSERT_TRUE(comesToHold([&] { return hasBeenTold; }));
+    ASSERT_TRUE(eventually([&] { return hasBeenTold; }));
     activateWindow("first");
     ASSERT_TRUE(comesToFront(notes));
     EXPECT_EQ(publisherPid(), notes.pid());
@@ -140,14 +140,14 @@ TEST_F(EnvironmentDesktopTest, aProgramThatFillsTheScreenIsInFullScreenMode) {
     ASSERT_TRUE(comesToFront(program));
     EXPECT_FALSE(ZTUtilities::fullScreenMode());
     press("F11");
-    EXPECT_TRUE(comesToHold([] { return ZTUtilities::fullScreenMode(); }));
+    EXPECT_TRUE(eventually([] { return ZTUtilities::fullScreenMode(); }));
     press("F11");
-    EXPECT_TRUE(comesToHold([] { return !ZTUtilities::fullScreenMode(); }));
+    EXPECT_TRUE(eventually([] { return !ZTUtilities::fullScreenMode(); }));
 }
 
 TEST_F(EnvironmentDesktopTest, aKeyPressEndsTheIdleTime) {
     constexpr float aWhile = 0.3F;
-    ASSERT_TRUE(comesToHold([] { return ZTUtilities::idleTime() >= aWhile; }));
+    ASSERT_TRUE(eventually([] { return ZTUtilities::idleTime() >= aWhile; }));
     const auto before = std::chrono::steady_clock::now();
     press("shift");
     const float idle = ZTUtilities::idleTime();
@@ -196,10 +196,10 @@ TEST_F(DarkDesktopTest, switchingToDarkCountsWithoutARestart) {
     const zt::ScopedPlatform current(native.services());
     EXPECT_FALSE(ZTUtilities::darkMenuTheme());
     portal.write("scheme 1\n");
-    EXPECT_TRUE(comesToHold([] { return ZTUtilities::darkMenuTheme(); }));
+    EXPECT_TRUE(eventually([] { return ZTUtilities::darkMenuTheme(); }));
     EXPECT_TRUE(ZTUtilities::darkAppearance());
     portal.write("scheme 2\n");
-    EXPECT_TRUE(comesToHold([] { return !ZTUtilities::darkMenuTheme(); }));
+    EXPECT_TRUE(eventually([] { return !ZTUtilities::darkMenuTheme(); }));
     EXPECT_FALSE(ZTUtilities::darkAppearance());
 }
 

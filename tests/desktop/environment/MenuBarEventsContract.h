@@ -8,7 +8,7 @@
 
 #include "Platform/MenuBarEvents.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -44,9 +44,9 @@ TYPED_TEST_P(MenuBarEventsContractTest, hidingAndShowingAreTold) {
     ASSERT_TRUE(this->events.installHandler(bothMenuBarEvents, keepIn(heard)));
     EXPECT_THAT(heard, testing::IsEmpty());
     this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return heard == MenuBarEventTypes{zt::MenuBarEvents::hidden}; }));
+    EXPECT_TRUE(eventually([&] { return heard == MenuBarEventTypes{zt::MenuBarEvents::hidden}; }));
     this->implementation.show();
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         return heard == MenuBarEventTypes{zt::MenuBarEvents::hidden, zt::MenuBarEvents::shown};
     }));
 }
@@ -57,9 +57,9 @@ TYPED_TEST_P(MenuBarEventsContractTest, onlyWhatIsWantedIsTold) {
     ASSERT_TRUE(this->events.installHandler(bothMenuBarEvents, keepIn(all)));
     ASSERT_TRUE(this->events.installHandler(std::array{zt::MenuBarEvents::shown}, keepIn(heard)));
     this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return all.size() == 1; }));
+    EXPECT_TRUE(eventually([&] { return all.size() == 1; }));
     this->implementation.show();
-    EXPECT_TRUE(comesToHold([&] { return all.size() == 2; }));
+    EXPECT_TRUE(eventually([&] { return all.size() == 2; }));
     EXPECT_THAT(heard, testing::ElementsAre(zt::MenuBarEvents::shown));
 }
 
@@ -72,7 +72,7 @@ TYPED_TEST_P(MenuBarEventsContractTest, anEventThatIsHandledGoesNoFurther) {
         this->events.installHandler(bothMenuBarEvents, keepIn(second, zt::MenuBarEvents::handled)));
     ASSERT_TRUE(this->events.installHandler(bothMenuBarEvents, keepIn(third)));
     this->implementation.hide();
-    EXPECT_TRUE(comesToHold([&] { return second.size() == 1; }));
+    EXPECT_TRUE(eventually([&] { return second.size() == 1; }));
     EXPECT_EQ(third.size(), 1U);
     EXPECT_THAT(first, testing::IsEmpty());
 }

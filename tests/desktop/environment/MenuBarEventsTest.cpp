@@ -4,6 +4,7 @@
 // Windows that fill the screen, under a real window manager and with the fake.
 
 #include "Platform/linux/X11MenuBarEvents.h"
+#include "tests/Waiting.h"
 
 #include "tests/desktop/environment/MenuBarEventsContract.h"
 #include "tests/desktop/environment/XServer.h"
@@ -37,7 +38,7 @@ void pressF11() {
 struct X11Case {
     X11Case() {
         EXPECT_TRUE(program.waitForLine("ready"));
-        EXPECT_TRUE(comesToHold([] { return isInFront("first"); }));
+        EXPECT_TRUE(eventually([] { return isInFront("first"); }));
     }
     static void hide() { pressF11(); }
     static void show() { pressF11(); }
@@ -60,7 +61,7 @@ class X11MenuBarEventsTest : public testing::Test {
 protected:
     void listen() { ASSERT_TRUE(events.installHandler(both, keepIn(heard))); }
     bool comesToBeHeard(const Types &types) {
-        return comesToHold([&] { return heard == types; });
+        return eventually([&] { return heard == types; });
     }
 
     zt::X11MenuBarEvents events;
@@ -71,12 +72,12 @@ protected:
 
 TEST_F(X11MenuBarEventsTest, anotherProgramInFrontShowsTheMenuBar) {
     RunningProgram program({WINDOWED_PROGRAM, "closes"});
-    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    ASSERT_TRUE(eventually([] { return isInFront("first"); }));
     listen();
     pressF11();
     ASSERT_TRUE(comesToBeHeard({MenuBarEvents::hidden}));
     RunningProgram other({"xmessage", "-title", "message", "Hello"});
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     activateWindow("message");
     EXPECT_TRUE(comesToBeHeard({MenuBarEvents::hidden, MenuBarEvents::shown}));
     activateWindow("first");
@@ -87,7 +88,7 @@ TEST_F(X11MenuBarEventsTest, anotherProgramInFrontShowsTheMenuBar) {
 TEST_F(X11MenuBarEventsTest, theEndOfTheProgramShowsTheMenuBar) {
     auto program =
         std::make_unique<RunningProgram>(std::vector<std::string>{WINDOWED_PROGRAM, "closes"});
-    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    ASSERT_TRUE(eventually([] { return isInFront("first"); }));
     listen();
     pressF11();
     ASSERT_TRUE(comesToBeHeard({MenuBarEvents::hidden}));
@@ -97,12 +98,12 @@ TEST_F(X11MenuBarEventsTest, theEndOfTheProgramShowsTheMenuBar) {
 
 TEST_F(X11MenuBarEventsTest, whatIsHiddenAlreadyIsNoEvent) {
     RunningProgram program({WINDOWED_PROGRAM, "closes"});
-    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    ASSERT_TRUE(eventually([] { return isInFront("first"); }));
     zt::X11MenuBarEvents earlier;
     Types heardEarlier;
     ASSERT_TRUE(earlier.installHandler(both, keepIn(heardEarlier)));
     pressF11();
-    ASSERT_TRUE(comesToHold([&] { return heardEarlier.size() == 1; }));
+    ASSERT_TRUE(eventually([&] { return heardEarlier.size() == 1; }));
     listen();
     pressF11();
     EXPECT_TRUE(comesToBeHeard({MenuBarEvents::shown}));
@@ -110,7 +111,7 @@ TEST_F(X11MenuBarEventsTest, whatIsHiddenAlreadyIsNoEvent) {
 
 TEST_F(X11MenuBarEventsTest, aHandlerMayInstallAnother) {
     RunningProgram program({WINDOWED_PROGRAM, "closes"});
-    ASSERT_TRUE(comesToHold([] { return isInFront("first"); }));
+    ASSERT_TRUE(eventually([] { return isInFront("first"); }));
     int calls = 0;
     ASSERT_TRUE(events.installHandler(both, [&](MenuBarEvents::Type) {
         if (++calls == 1)
@@ -118,10 +119,10 @@ TEST_F(X11MenuBarEventsTest, aHandlerMayInstallAnother) {
         return MenuBarEvents::notHandled;
     }));
     pressF11();
-    ASSERT_TRUE(comesToHold([&] { return calls == 1; }));
+    ASSERT_TRUE(eventually([&] { return calls == 1; }));
     EXPECT_THAT(heard, IsEmpty());
     pressF11();
-    EXPECT_TRUE(comesToHold([&] { return calls == 2; }));
+    EXPECT_TRUE(eventually([&] { return calls == 2; }));
     EXPECT_THAT(heard, ElementsAre(MenuBarEvents::shown));
 }
 

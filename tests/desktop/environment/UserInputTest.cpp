@@ -5,9 +5,9 @@
 
 #include "Platform/linux/X11UserInput.h"
 
+#include "tests/Waiting.h"
 #include "tests/desktop/environment/UserInputContract.h"
 #include "tests/desktop/environment/XServer.h"
-#include "tests/desktop/process/DesktopWait.h"
 #include "tests/fakes/FakeUserInput.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ namespace {
 
 struct X11Case {
     void idleFor(std::chrono::milliseconds time) {
-        EXPECT_TRUE(comesToHold([&] { return input.idleTime() >= time; }));
+        EXPECT_TRUE(eventually([&] { return input.idleTime() >= time; }));
     }
     static void pressKey() {
         RunningProgram program({"xdotool", "key", "shift"});
@@ -42,7 +42,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Services, UserInputContractTest, UserInputs);
 
 TEST(X11UserInputTest, theMouseEndsItToo) {
     zt::X11UserInput input;
-    ASSERT_TRUE(comesToHold([&] { return input.idleTime() >= 200ms; }));
+    ASSERT_TRUE(eventually([&] { return input.idleTime() >= 200ms; }));
     const auto before = std::chrono::steady_clock::now();
     RunningProgram program({"xdotool", "mousemove", "10", "20"});
     ASSERT_EQ(program.waitForEnd(), 0);
@@ -78,5 +78,5 @@ TEST(X11UserInputTest, anotherServerIsAskedWhenTheFirstHasEnded) {
         const XServer server("MIT-SHM");
         ASSERT_NE(input.idleTime(), std::nullopt);
     }
-    EXPECT_TRUE(comesToHold([&] { return input.idleTime() != std::nullopt; }));
+    EXPECT_TRUE(eventually([&] { return input.idleTime() != std::nullopt; }));
 }

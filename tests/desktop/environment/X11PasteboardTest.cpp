@@ -5,9 +5,9 @@
 
 #include "Platform/linux/X11Pasteboard.h"
 
+#include "tests/Waiting.h"
 #include "tests/desktop/environment/SelectionOwner.h"
 #include "tests/desktop/environment/XServer.h"
-#include "tests/desktop/process/DesktopWait.h"
 
 #include <gtest/gtest.h>
 
@@ -34,7 +34,7 @@ private:
 TEST_F(X11PasteboardTest, aRealProgramsCopyingIsCounted) {
     RunningProgram program({"sh", "-c", "echo text | xclip -selection clipboard"});
     EXPECT_EQ(program.waitForEnd(), 0);
-    EXPECT_TRUE(comesToHold([this] { return changes() == 1; }));
+    EXPECT_TRUE(eventually([this] { return changes() == 1; }));
 }
 
 TEST_F(X11PasteboardTest, theSameProgramMayCopyAgain) {
@@ -135,6 +135,6 @@ TEST(X11PasteboardFaultTest, whenTheServerEndsNothingIsKnownAnyMore) {
         const XServer server("MIT-SHM");
         EXPECT_NE(pasteboard.changeCount(), std::nullopt);
     }
-    EXPECT_TRUE(comesToHold([&] { return pasteboard.changeCount() == std::nullopt; }));
+    EXPECT_TRUE(eventually([&] { return pasteboard.changeCount() == std::nullopt; }));
     EXPECT_EQ(pasteboard.changeCount(), std::nullopt) << "no matter that there is another server";
 }

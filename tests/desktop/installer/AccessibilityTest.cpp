@@ -4,6 +4,7 @@
 // The installer as a program of its own, used by the keyboard alone and heard by a screen reader.
 
 #include "Platform/linux/AtSpiAccessibility.h"
+#include "tests/Waiting.h"
 
 #include "tests/desktop/installer/AccessibleTree.h"
 
@@ -102,11 +103,6 @@ protected:
     }
 
     static void type(const QString &key) { QProcess::execute(u"xdotool"_s, {u"key"_s, key}); }
-
-    template <typename Condition>
-    static bool eventually(Condition condition) {
-        return QTest::qWaitFor(condition, 20'000);
-    }
 
     QProcess m_installer;
 

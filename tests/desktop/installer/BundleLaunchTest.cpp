@@ -4,6 +4,7 @@
 // Launching a bundle's program: what it finds when it begins.
 
 #include "Platform/linux/BundleLaunch.h"
+#include "tests/Waiting.h"
 
 #include <QDir>
 #include <QFile>
@@ -35,7 +36,7 @@ protected:
                                  .information = {}});
         pid = zt::launchBundle(bundle, QDir::homePath());
         EXPECT_TRUE(pid);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(output); }, 20'000));
+        EXPECT_TRUE(eventually([&] { return QFile::exists(output); }));
         QFile result(output);
         EXPECT_TRUE(result.open(QIODevice::ReadOnly));
         return QString::fromUtf8(result.readAll()).trimmed();

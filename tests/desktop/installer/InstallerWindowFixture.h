@@ -101,12 +101,6 @@ protected:
 
     static void type(const QString &key) { QProcess::execute(u"xdotool"_s, {u"key"_s, key}); }
 
-    // Lets the program run until the condition holds.
-    template <typename Condition>
-    static bool eventually(Condition condition) {
-        return QTest::qWaitFor(condition, 20'000);
-    }
-
     // Lets the program run until it quits by itself.
     static bool quits() {
         constexpr int timedOut = 77;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/Waiting.h"
 #include "tests/desktop/installer/InstallerWindowFixture.h"
 
 using InstallerWindowTest = InstallerWindowFixture;
@@ -9,7 +10,9 @@ TEST_F(InstallerWindowTest, aProductIsInstalledFromTheReadMeToTheEnd) {
     write(destination() + u"/old"_s, "old");
     startSample({u"-readMePath"_s, sample() + u"/Contents/Resources/ReadMe.rtf"_s});
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
-    EXPECT_TRUE(field<QTextBrowser>("readMeTextView")->toPlainText().contains(u"Sample Notes"_s));
+    EXPECT_TRUE(eventually([this] {
+        return field<QTextBrowser>("readMeTextView")->toPlainText().contains(u"Sample Notes"_s);
+    }));
 
     click(button("installButton"));
     ASSERT_TRUE(eventually([this] { return page() == InstallerWinController::MainPage; }));

@@ -3,6 +3,7 @@
 
 // Installing a product while copies of it run that behave in all kinds of ways.
 
+#include "tests/Waiting.h"
 #include "tests/desktop/installer/InstallerWindowFixture.h"
 #include "tests/programs/RunningProgram.h"
 

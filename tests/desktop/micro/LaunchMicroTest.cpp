@@ -12,7 +12,7 @@
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
@@ -55,7 +55,7 @@ protected:
         ZTProcess::platformChanged();
         ZTUtilities::platformChanged();
         EXPECT_TRUE(program.waitForLine("ready"));
-        EXPECT_TRUE(comesToHold([&] { return windowSystem.frontProcess() == program.pid(); }));
+        EXPECT_TRUE(eventually([&] { return windowSystem.frontProcess() == program.pid(); }));
     }
 
     ~LaunchMicroTest() override {
@@ -101,9 +101,9 @@ TEST_F(LaunchMicroTest, theHelperTakesTheFocusAndGivesItBack) {
     // Less than the most: another program was seen in front.
     EXPECT_GE(waitCount(), 0);
     EXPECT_LT(waitCount(), 500);
-    EXPECT_TRUE(comesToHold([&] { return windowSystem.frontProcess() == program.pid(); }));
-    EXPECT_TRUE(comesToHold([] { return windowWithKeyboard() == u"first"_s; }));
-    EXPECT_TRUE(comesToHold([&] { return onlyTheProgramHasWindows(); }));
+    EXPECT_TRUE(eventually([&] { return windowSystem.frontProcess() == program.pid(); }));
+    EXPECT_TRUE(eventually([] { return windowWithKeyboard() == u"first"_s; }));
+    EXPECT_TRUE(eventually([&] { return onlyTheProgramHasWindows(); }));
     EXPECT_EQ(windowSystem.frontProcess(), program.pid());
     EXPECT_THAT(windowTitlesFromBottomToTop(), ElementsAre("first"));
 }
@@ -112,9 +112,9 @@ TEST_F(LaunchMicroTest, theHelperThatMayStayIsSentAwayInTheEnd) {
     ZTUtilities::launchMicro(true);
     EXPECT_GE(waitCount(), 0);
     EXPECT_LT(waitCount(), 500);
-    EXPECT_TRUE(comesToHold([&] { return onlyTheProgramHasWindows(); }));
-    EXPECT_TRUE(comesToHold([&] { return windowSystem.frontProcess() == program.pid(); }));
-    EXPECT_TRUE(comesToHold([] { return windowWithKeyboard() == u"first"_s; }));
+    EXPECT_TRUE(eventually([&] { return onlyTheProgramHasWindows(); }));
+    EXPECT_TRUE(eventually([&] { return windowSystem.frontProcess() == program.pid(); }));
+    EXPECT_TRUE(eventually([] { return windowWithKeyboard() == u"first"_s; }));
 }
 
 TEST_F(LaunchMicroTest, theHelperComesAgainEachTime) {
@@ -123,8 +123,8 @@ TEST_F(LaunchMicroTest, theHelperComesAgainEachTime) {
         ZTUtilities::launchMicro(false);
         EXPECT_GE(waitCount(), 0);
         EXPECT_LT(waitCount(), 500);
-        EXPECT_TRUE(comesToHold([&] { return onlyTheProgramHasWindows(); }));
-        EXPECT_TRUE(comesToHold([&] { return windowSystem.frontProcess() == program.pid(); }));
+        EXPECT_TRUE(eventually([&] { return onlyTheProgramHasWindows(); }));
+        EXPECT_TRUE(eventually([&] { return windowSystem.frontProcess() == program.pid(); }));
     }
 }
 

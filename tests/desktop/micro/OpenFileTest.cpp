@@ -6,6 +6,7 @@
 #include "Platform/linux/DesktopWorkspace.h"
 
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
+#include "tests/Waiting.h"
 
 #include "tests/fakes/FakePlatform.h"
 
@@ -41,7 +42,7 @@ protected:
     }
 
     QString recorded() const {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(record); }, 20'000));
+        EXPECT_TRUE(eventually([&] { return QFile::exists(record); }));
         QFile in(record);
         EXPECT_TRUE(in.open(QIODevice::ReadOnly));
         return QString::fromUtf8(in.readAll());

@@ -5,6 +5,7 @@
 
 // The installer as a user runs it who may not write to the applications folder.
 
+#include "tests/Waiting.h"
 #include "tests/desktop/polkit/PolkitAgent.h"
 
 #include <QCoreApplication>
@@ -67,11 +68,6 @@ protected:
     static void focus(const QString &title) {
         QProcess::execute(u"xdotool"_s, {u"search"_s, u"--name"_s, u'^' + title + u'$',
                                          u"windowactivate"_s, u"--sync"_s});
-    }
-
-    template <typename Condition>
-    static bool eventually(Condition condition) {
-        return QTest::qWaitFor(condition, 30'000);
     }
 
     static QString log() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Platform/linux/X11WindowSystem.h"
+#include "tests/Waiting.h"
 
 #include "tests/desktop/polkit/PrivilegedInstallFixture.h"
 

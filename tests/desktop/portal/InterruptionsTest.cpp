@@ -4,6 +4,7 @@
 // Interruptions held off through the buses, with services of the test's own.
 
 #include "Platform/linux/BusInterruptions.h"
+#include "tests/Waiting.h"
 
 #include "tests/fakes/FakePlatform.h"
 
@@ -54,13 +55,11 @@ protected:
 
     // Whether the services come to say these lines, in any order.
     bool come(QStringList lines) {
-        return QTest::qWaitFor(
-            [&] {
-                while (services.canReadLine())
-                    lines.removeOne(QString::fromUtf8(services.readLine().trimmed()));
-                return lines.isEmpty();
-            },
-            20'000);
+        return eventually([&] {
+            while (services.canReadLine())
+                lines.removeOne(QString::fromUtf8(services.readLine().trimmed()));
+            return lines.isEmpty();
+        });
     }
 
     SystemBus systemBus;
@@ -119,7 +118,7 @@ TEST_F(InterruptionsTest, severalHoldsEndEachForItself) {
 
 TEST_F(InterruptionsTest, whereNobodyCanHoldAnythingOffTheLogSaysSo) {
     const auto hold = interruptions.holdOff(reason);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return log.lines().size() == 2; }, 20'000));
+    ASSERT_TRUE(eventually([this] { return log.lines().size() == 2; }));
     EXPECT_TRUE(log.lines()[0].startsWith(u"sleep is not held off: "_s));
     EXPECT_TRUE(log.lines()[1].startsWith(u"log-out is not held off: "_s));
 }
@@ -131,7 +130,7 @@ TEST_F(InterruptionsTest, withoutABusTheLogSaysSoToo) {
         qputenv(name, "unix:path=/no/such/bus");
     {
         const auto hold = interruptions.holdOff(reason);
-        EXPECT_TRUE(QTest::qWaitFor([this] { return log.lines().size() == 2; }, 20'000));
+        EXPECT_TRUE(eventually([this] { return log.lines().size() == 2; }));
     }
     qputenv("DBUS_SESSION_BUS_ADDRESS", session);
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", system);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Platform/linux/PortalAppearance.h"
+#include "tests/Waiting.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -61,7 +62,7 @@ TEST_F(PortalAppearanceTest, aChangeIsTold) {
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
     portal.write("scheme 1\n");
-    ASSERT_TRUE(QTest::qWaitFor(
+    ASSERT_TRUE(eventually(
         [&appearance] { return appearance.preferredScheme() == Appearance::Scheme::Dark; }));
     EXPECT_GE(changes, 1);
 }
@@ -72,7 +73,7 @@ TEST_F(PortalAppearanceTest, aPortalThatAnswersLateIsHeardLate) {
     EXPECT_EQ(appearance.preferredScheme(), std::nullopt);
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
-    ASSERT_TRUE(QTest::qWaitFor(
+    ASSERT_TRUE(eventually(
         [&appearance] { return appearance.preferredScheme() == Appearance::Scheme::Dark; }));
     EXPECT_EQ(changes, 1);
 }
@@ -103,10 +104,10 @@ TEST_F(PortalAppearanceTest, anotherTintIsTold) {
     EXPECT_EQ(appearance.controlTint(), Appearance::ControlTint::Blue);
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return changes == 1; })) << "the scheme is known now";
+    ASSERT_TRUE(eventually([&] { return changes == 1; })) << "the scheme is known now";
     portal.write("accent 0.5 0.5 0.5\n");
-    ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return appearance.controlTint() == Appearance::ControlTint::Graphite; }));
+    ASSERT_TRUE(
+        eventually([&] { return appearance.controlTint() == Appearance::ControlTint::Graphite; }));
     EXPECT_EQ(changes, 2);
 }
 
@@ -118,12 +119,12 @@ TEST_F(PortalAppearanceTest, everyListenerIsToldAsLongAsItListens) {
     int second = 0;
     appearance.setChangeListener(&first, [&] { ++first; });
     appearance.setChangeListener(&second, [&] { ++second; });
-    ASSERT_TRUE(QTest::qWaitFor([&] { return first == 1 && second == 1; })) << "it is known now";
+    ASSERT_TRUE(eventually([&] { return first == 1 && second == 1; })) << "it is known now";
     portal.write("scheme 1\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return first == 2 && second == 2; }));
+    ASSERT_TRUE(eventually([&] { return first == 2 && second == 2; }));
     appearance.setChangeListener(&first, {});
     portal.write("scheme 2\n");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return second == 3; }));
+    ASSERT_TRUE(eventually([&] { return second == 3; }));
     EXPECT_EQ(first, 2);
 }
 
@@ -135,7 +136,7 @@ TEST_F(PortalAppearanceTest, settingsFilesCountWhereThePortalHasNoSuchSetting) {
     EXPECT_EQ(appearance.preferredScheme(), Appearance::Scheme::Dark);
     EXPECT_EQ(appearance.controlTint(), Appearance::ControlTint::Graphite);
     portal.write("scheme 2\n");
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(eventually([&] {
         return appearance.preferredScheme() == Appearance::Scheme::Light;
     })) << "but what the portal says counts from then on";
 }
@@ -173,10 +174,10 @@ TEST_F(PortalAppearanceTest, theWishForContrastIsHeardAndFollowed) {
     zt::PortalAppearance appearance(configuration.path());
     int changes = 0;
     appearance.setChangeListener(this, [&changes] { ++changes; });
-    ASSERT_TRUE(QTest::qWaitFor([&appearance] { return appearance.prefersMoreContrast(); }));
+    ASSERT_TRUE(eventually([&appearance] { return appearance.prefersMoreContrast(); }));
     EXPECT_GE(changes, 1);
     portal.write("contrast 0\n");
-    EXPECT_TRUE(QTest::qWaitFor([&appearance] { return !appearance.prefersMoreContrast(); }));
+    EXPECT_TRUE(eventually([&appearance] { return !appearance.prefersMoreContrast(); }));
 }
 
 TEST_F(PortalAppearanceTest, withoutAPortalTheThemeTellsOfTheContrast) {
@@ -186,7 +187,7 @@ TEST_F(PortalAppearanceTest, withoutAPortalTheThemeTellsOfTheContrast) {
     file.write("[Settings]\ngtk-theme-name=HighContrast\n");
     file.close();
     const zt::PortalAppearance appearance(configuration.path());
-    EXPECT_TRUE(QTest::qWaitFor([&appearance] { return appearance.prefersMoreContrast(); }));
+    EXPECT_TRUE(eventually([&appearance] { return appearance.prefersMoreContrast(); }));
 }
 
 int main(int argc, char **argv) {

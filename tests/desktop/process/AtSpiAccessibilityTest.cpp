@@ -5,7 +5,7 @@
 
 #include "Platform/linux/AtSpiAccessibility.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
 
@@ -39,7 +39,7 @@ protected:
     static void SetUpTestSuite() { qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1"_ba); }
 
     bool isShown(const RunningProgram &program) {
-        return comesToHold([&] { return bool(accessibility.checkApplication(program.pid())); });
+        return eventually([&] { return bool(accessibility.checkApplication(program.pid())); });
     }
 
     std::unique_ptr<zt::AccessibilityObserver> observe(const RunningProgram &program) {
@@ -52,7 +52,7 @@ protected:
     }
 
     bool hears(const QString &notification) {
-        return comesToHold([&] {
+        return eventually([&] {
             return std::any_of(heard.begin(), heard.end(),
                                [&](const Heard &one) { return one.notification == notification; });
         });
@@ -71,11 +71,11 @@ TEST_F(AtSpiAccessibilityTest, theFocusIsFollowedInBothToolkits) {
         heard.clear();
         const RunningProgram program(commandLine);
         ASSERT_TRUE(isShown(program));
-        ASSERT_TRUE(comesToHold([] { return !windowTitlesFromBottomToTop().empty(); }));
+        ASSERT_TRUE(eventually([] { return !windowTitlesFromBottomToTop().empty(); }));
         const auto observer = observe(program);
         ASSERT_TRUE(observer);
         ASSERT_TRUE(observer->addNotification(u"AXFocusedUIElementChanged"_s));
-        EXPECT_TRUE(comesToHold([&] {
+        EXPECT_TRUE(eventually([&] {
             press(u"Tab"_s);
             return !heard.empty();
         }));
@@ -88,10 +88,10 @@ TEST_F(AtSpiAccessibilityTest, theFocusIsFollowedInBothToolkits) {
 TEST_F(AtSpiAccessibilityTest, anElementIsDescribedByItsRoleAndName) {
     const RunningProgram program({WINDOWED_PROGRAM, "closes"});
     ASSERT_TRUE(isShown(program));
-    ASSERT_TRUE(comesToHold([] { return !windowTitlesFromBottomToTop().empty(); }));
+    ASSERT_TRUE(eventually([] { return !windowTitlesFromBottomToTop().empty(); }));
     const auto observer = observe(program);
     ASSERT_TRUE(observer->addNotification(u"object:state-changed:focused"_s));
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         press(u"Tab"_s);
         return std::any_of(heard.begin(), heard.end(),
                            [](const Heard &one) { return one.element == u"text \"Place\""; });
@@ -101,11 +101,11 @@ TEST_F(AtSpiAccessibilityTest, anElementIsDescribedByItsRoleAndName) {
 TEST_F(AtSpiAccessibilityTest, theNameOnTheBusServesToo) {
     const RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(isShown(program));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     const auto observer = observe(program);
     ASSERT_TRUE(observer->addNotification(u"window:activate"_s));
     ASSERT_TRUE(observer->addNotification(u"AXFocusedWindowChanged"_s));
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         activateWindow("first");
         activateWindow("second");
         return heard.size() >= 2;
@@ -117,12 +117,12 @@ TEST_F(AtSpiAccessibilityTest, theNameOnTheBusServesToo) {
 TEST_F(AtSpiAccessibilityTest, whatWasRemovedIsNotHeardAndWhatStaysIs) {
     const RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(isShown(program));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     const auto observer = observe(program);
     ASSERT_TRUE(observer->addNotification(u"window:activate"_s));
     ASSERT_TRUE(observer->addNotification(u"window:deactivate"_s));
     observer->removeNotification(u"window:deactivate"_s);
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         activateWindow("first");
         activateWindow("second");
         return heard.size() >= 4;
@@ -139,7 +139,7 @@ TEST_F(AtSpiAccessibilityTest, otherProgramsAreNotHeard) {
     // Somebody who does hear the other program tells when there would have been something to hear.
     const RunningProgram other({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(isShown(other));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 3; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 3; }));
     int heardFromOther = 0;
     auto otherObserver = accessibility.observeApplication(
         other.pid(), [&](const QString &, const QString &) { ++heardFromOther; });
@@ -147,7 +147,7 @@ TEST_F(AtSpiAccessibilityTest, otherProgramsAreNotHeard) {
     ASSERT_TRUE((*otherObserver)->addNotification(u"window:activate"_s));
     ASSERT_TRUE((*otherObserver)->addNotification(u"window:activate"_s)) << "twice is once";
     heard.clear();
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         activateWindow("second");
         press(u"Tab"_s);
         if (heardFromOther == 0)
@@ -159,7 +159,7 @@ TEST_F(AtSpiAccessibilityTest, otherProgramsAreNotHeard) {
 TEST_F(AtSpiAccessibilityTest, theHandlerMayEndTheObservation) {
     const RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(isShown(program));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     std::unique_ptr<zt::AccessibilityObserver> observer;
     int calls = 0;
     auto made =
@@ -170,7 +170,7 @@ TEST_F(AtSpiAccessibilityTest, theHandlerMayEndTheObservation) {
     ASSERT_TRUE(made);
     observer = std::move(*made);
     ASSERT_TRUE(observer->addNotification(u"window:activate"_s));
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         activateWindow("first");
         activateWindow("second");
         return calls > 0;
@@ -186,7 +186,7 @@ TEST_F(AtSpiAccessibilityTest, aProgramThatEndsIsNotShownAnyMore) {
     ASSERT_TRUE(observer->addNotification(u"window:activate"_s));
     ASSERT_EQ(::kill(program.pid(), SIGKILL), 0);
     program.waitForEnd();
-    EXPECT_TRUE(comesToHold([&] { return !accessibility.checkApplication(program.pid()); }));
+    EXPECT_TRUE(eventually([&] { return !accessibility.checkApplication(program.pid()); }));
     observer->removeNotification(u"window:activate"_s);
 }
 

@@ -5,7 +5,7 @@
 
 #include "Platform/linux/X11WindowSystem.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
 
@@ -25,12 +25,12 @@ namespace {
 class X11WindowSystemTest : public testing::Test {
 protected:
     bool hasWindows(const RunningProgram &program) {
-        return comesToHold(
+        return eventually(
             [&] { return windowSystem.processesWithWindows().contains(program.pid()); });
     }
 
     bool comesToFront(const RunningProgram &program) {
-        return comesToHold([&] { return windowSystem.frontProcess() == program.pid(); });
+        return eventually([&] { return windowSystem.frontProcess() == program.pid(); });
     }
 
     zt::X11WindowSystem windowSystem;
@@ -58,7 +58,7 @@ TEST_F(X11WindowSystemTest, aProgramThatEndedHasNoWindows) {
     EXPECT_EQ(windowSystem.requestClose(program.pid()), 1);
     EXPECT_EQ(program.waitForEnd(), 0);
     EXPECT_TRUE(
-        comesToHold([&] { return !windowSystem.processesWithWindows().contains(program.pid()); }));
+        eventually([&] { return !windowSystem.processesWithWindows().contains(program.pid()); }));
     EXPECT_EQ(windowSystem.requestClose(program.pid()), 0);
 }
 
@@ -69,7 +69,7 @@ TEST_F(X11WindowSystemTest, aWindowThatHasGoneIsNotTakenForOneOfTheNextProgram) 
         // and the server may already count that window's id as this program's.
         ASSERT_TRUE(comesToFront(program));
         // The window manager takes a moment to forget the last one.
-        EXPECT_TRUE(comesToHold(
+        EXPECT_TRUE(eventually(
             [] { return testing::Value(windowTitlesFromBottomToTop(), ElementsAre("first")); }));
     }
 }
@@ -86,12 +86,12 @@ TEST_F(X11WindowSystemTest, theNewestWindowIsInFrontUntilAnotherIsBroughtThere) 
 TEST_F(X11WindowSystemTest, allWindowsComeForwardInTheirOrder) {
     RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(program.waitForLine("ready"));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     const std::vector<std::string> before = windowTitlesFromBottomToTop();
     RunningProgram other(athenaDialog);
     ASSERT_TRUE(comesToFront(other));
     windowSystem.bringToFront(program.pid(), zt::WindowSystem::Windows::All);
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         return windowTitlesFromBottomToTop() ==
                std::vector<std::string>{"message", before[0], before[1]};
     })) << testing::PrintToString(windowTitlesFromBottomToTop());
@@ -101,13 +101,13 @@ TEST_F(X11WindowSystemTest, allWindowsComeForwardInTheirOrder) {
 TEST_F(X11WindowSystemTest, theFrontWindowAloneComesForward) {
     RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(program.waitForLine("ready"));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     const std::vector<std::string> before = windowTitlesFromBottomToTop();
     RunningProgram other(athenaDialog);
     ASSERT_TRUE(comesToFront(other));
     windowSystem.bringToFront(program.pid(), zt::WindowSystem::Windows::FrontOnly);
     EXPECT_TRUE(comesToFront(program));
-    EXPECT_TRUE(comesToHold([&] {
+    EXPECT_TRUE(eventually([&] {
         return windowTitlesFromBottomToTop() ==
                std::vector<std::string>{before[0], "message", before[1]};
     })) << testing::PrintToString(windowTitlesFromBottomToTop());
@@ -121,22 +121,22 @@ TEST_F(X11WindowSystemTest, aHiddenProgramGivesUpTheFrontAndComesBack) {
         ASSERT_TRUE(comesToFront(program));
         const std::size_t count = windowTitlesFromBottomToTop().size();
         windowSystem.setHidden(program.pid(), true);
-        EXPECT_TRUE(comesToHold([&] { return hiddenWindowCount() == count; }));
-        EXPECT_TRUE(comesToHold([&] { return windowSystem.frontProcess() != program.pid(); }));
+        EXPECT_TRUE(eventually([&] { return hiddenWindowCount() == count; }));
+        EXPECT_TRUE(eventually([&] { return windowSystem.frontProcess() != program.pid(); }));
         windowSystem.setHidden(program.pid(), false);
-        EXPECT_TRUE(comesToHold([] { return hiddenWindowCount() == 0; }));
+        EXPECT_TRUE(eventually([] { return hiddenWindowCount() == 0; }));
     }
 }
 
 TEST_F(X11WindowSystemTest, bringingForwardRestoresMinimisedWindows) {
     RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
     ASSERT_TRUE(comesToFront(program));
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     windowSystem.setHidden(program.pid(), true);
-    ASSERT_TRUE(comesToHold([] { return hiddenWindowCount() == 2; }));
+    ASSERT_TRUE(eventually([] { return hiddenWindowCount() == 2; }));
     windowSystem.bringToFront(program.pid(), zt::WindowSystem::Windows::All);
     EXPECT_TRUE(comesToFront(program));
-    EXPECT_TRUE(comesToHold([] { return hiddenWindowCount() == 0; }));
+    EXPECT_TRUE(eventually([] { return hiddenWindowCount() == 0; }));
 }
 
 TEST_F(X11WindowSystemTest, eachWindowIsAskedToCloseAndMayRefuse) {
@@ -187,29 +187,29 @@ TEST_F(X11WindowSystemTest, listenersHearOfWindowsAndOfTheFront) {
     int windowChanges = 0;
     windowSystem.setChangeListeners([&] { ++frontChanges; }, [&] { ++windowChanges; });
     RunningProgram first({WINDOWED_PROGRAM, "closes"});
-    EXPECT_TRUE(comesToHold([&] { return frontChanges == 1 && windowChanges >= 1; }));
+    EXPECT_TRUE(eventually([&] { return frontChanges == 1 && windowChanges >= 1; }));
     RunningProgram second({WINDOWED_PROGRAM, "closes"});
-    EXPECT_TRUE(comesToHold([&] { return frontChanges == 2; }));
+    EXPECT_TRUE(eventually([&] { return frontChanges == 2; }));
     const int before = windowChanges;
     windowSystem.requestClose(second.pid());
-    EXPECT_TRUE(comesToHold([&] { return frontChanges == 3 && windowChanges > before; }));
+    EXPECT_TRUE(eventually([&] { return frontChanges == 3 && windowChanges > before; }));
     windowSystem.setChangeListeners({}, {});
     windowSystem.requestClose(first.pid());
     first.waitForEnd();
-    ASSERT_TRUE(comesToHold([&] { return windowSystem.processesWithWindows().isEmpty(); }));
+    ASSERT_TRUE(eventually([&] { return windowSystem.processesWithWindows().isEmpty(); }));
     EXPECT_EQ(frontChanges, 3);
 }
 
 TEST_F(X11WindowSystemTest, anotherWindowOfTheSameProgramInFrontIsNoChangeOfTheFrontProcess) {
     RunningProgram program({WINDOWED_PROGRAM, "two-windows"});
-    ASSERT_TRUE(comesToHold([] { return windowTitlesFromBottomToTop().size() == 2; }));
+    ASSERT_TRUE(eventually([] { return windowTitlesFromBottomToTop().size() == 2; }));
     ASSERT_TRUE(comesToFront(program));
     int frontChanges = 0;
     windowSystem.setChangeListeners([&] { ++frontChanges; }, {});
     activateWindow(windowTitlesFromBottomToTop()[0]);
     RunningProgram other(athenaDialog);
     ASSERT_TRUE(comesToFront(other));
-    EXPECT_TRUE(comesToHold([&] { return frontChanges == 1; }));
+    EXPECT_TRUE(eventually([&] { return frontChanges == 1; }));
 }
 
 TEST_F(X11WindowSystemTest, aListenerMayEndTheListening) {
@@ -219,7 +219,7 @@ TEST_F(X11WindowSystemTest, aListenerMayEndTheListening) {
         windowSystem.setChangeListeners({}, {});
     });
     const RunningProgram program({WINDOWED_PROGRAM, "closes"});
-    EXPECT_TRUE(comesToHold([&] { return wasCalled; }));
+    EXPECT_TRUE(eventually([&] { return wasCalled; }));
 }
 
 TEST_F(X11WindowSystemTest, threadsMayAskAtTheSameTime) {

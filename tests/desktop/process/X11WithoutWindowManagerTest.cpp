@@ -5,7 +5,7 @@
 
 #include "Platform/linux/X11WindowSystem.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/programs/RunningProgram.h"
 
@@ -21,7 +21,7 @@ std::unique_ptr<RunningProgram> startWindowManager() {
     forgetWindowManager();
     auto manager =
         std::make_unique<RunningProgram>(std::vector<std::string>{"openbox", "--sm-disable"});
-    EXPECT_TRUE(comesToHold(windowManagerIsReady));
+    EXPECT_TRUE(eventually(windowManagerIsReady));
     return manager;
 }
 
@@ -50,17 +50,17 @@ TEST(X11WithoutWindowManagerTest, aWindowManagerThatComesLaterIsFound) {
     const std::unique_ptr<RunningProgram> manager = startWindowManager();
     const RunningProgram program({WINDOWED_PROGRAM, "closes"});
     EXPECT_TRUE(
-        comesToHold([&] { return windowSystem.processesWithWindows() == QList{program.pid()}; }));
-    EXPECT_TRUE(comesToHold([&] { return windowChanges > 0; }));
+        eventually([&] { return windowSystem.processesWithWindows() == QList{program.pid()}; }));
+    EXPECT_TRUE(eventually([&] { return windowChanges > 0; }));
 }
 
 TEST(X11WithoutWindowManagerTest, whatADeadWindowManagerLeftBehindIsNotBelieved) {
     zt::X11WindowSystem windowSystem;
     std::unique_ptr<RunningProgram> manager = startWindowManager();
     RunningProgram program({WINDOWED_PROGRAM, "closes"});
-    ASSERT_TRUE(comesToHold([&] { return windowSystem.frontProcess() == program.pid(); }));
+    ASSERT_TRUE(eventually([&] { return windowSystem.frontProcess() == program.pid(); }));
     manager.reset();
-    EXPECT_TRUE(comesToHold([&] { return !windowSystem.frontProcess().has_value(); }));
+    EXPECT_TRUE(eventually([&] { return !windowSystem.frontProcess().has_value(); }));
     expectNeutralAnswers(windowSystem, program.pid());
 }
 

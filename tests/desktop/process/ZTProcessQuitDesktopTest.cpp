@@ -12,7 +12,7 @@
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/process/WindowStack.h"
 #include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
@@ -37,7 +37,7 @@ protected:
     }
 
     ZTProcess::Pointer processOf(const RunningProgram &program) {
-        EXPECT_TRUE(comesToHold(
+        EXPECT_TRUE(eventually(
             [&] { return windowSystem.processesWithWindows().contains(program.pid()); }));
         return ZTProcess::processWithPID(program.pid());
     }
@@ -81,7 +81,7 @@ class ZTProcessQuitToolkitTest : public ZTProcessQuitDesktopTest,
 TEST_P(ZTProcessQuitToolkitTest, aProgramThatClosesEndsAtTheFirstAsking) {
     RunningProgram program(GetParam().commandLine);
     ASSERT_TRUE(
-        comesToHold([] { return windowTitlesFromBottomToTop().size() == GetParam().windowCount; }));
+        eventually([] { return windowTitlesFromBottomToTop().size() == GetParam().windowCount; }));
     processOf(program)->quit();
     EXPECT_THAT(log(), MatchesRegex("quit [^\n]*: terminated after 0\\.[0-9]+s "
                                     "\\([0-9]+ attempts\\)"));
@@ -160,7 +160,7 @@ TEST_F(ZTProcessQuitDesktopTest, aProgramThatWasGoneBeforeIsLoggedTwice) {
     const ZTProcess::Pointer process = processOf(program);
     ASSERT_TRUE(process->name());
     ASSERT_EQ(::kill(program.pid(), SIGKILL), 0);
-    ASSERT_TRUE(comesToHold([&] { return program.hasEnded(); }));
+    ASSERT_TRUE(eventually([&] { return program.hasEnded(); }));
     process->quit();
     EXPECT_EQ(log(), "cannot quit windowed_program: no pid\n"
                      "quitting windowed_program failed (-600; could not create descriptor)");
@@ -169,16 +169,16 @@ TEST_F(ZTProcessQuitDesktopTest, aProgramThatWasGoneBeforeIsLoggedTwice) {
 TEST_F(ZTProcessQuitDesktopTest, aProcessComesForwardHidesAndSwitchesOut) {
     RunningProgram first({WINDOWED_PROGRAM, "two-windows"});
     const ZTProcess::Pointer process = processOf(first);
-    ASSERT_TRUE(comesToHold([&] { return process->isFrontProcess(); }));
+    ASSERT_TRUE(eventually([&] { return process->isFrontProcess(); }));
     RunningProgram second({"xmessage", "Hello"});
     const ZTProcess::Pointer other = processOf(second);
-    ASSERT_TRUE(comesToHold([&] { return other->isFrontProcess(); }));
+    ASSERT_TRUE(eventually([&] { return other->isFrontProcess(); }));
     process->setFrontProcess();
-    EXPECT_TRUE(comesToHold([&] { return process->isFrontProcess(); }));
+    EXPECT_TRUE(eventually([&] { return process->isFrontProcess(); }));
     process->setHidden(true);
-    EXPECT_TRUE(comesToHold([&] { return other->isFrontProcess(); }));
+    EXPECT_TRUE(eventually([&] { return other->isFrontProcess(); }));
     process->setHidden(false);
-    EXPECT_TRUE(comesToHold([] { return hiddenWindowCount() == 0; }));
+    EXPECT_TRUE(eventually([] { return hiddenWindowCount() == 0; }));
     process->temporarilySwitchOut();
-    EXPECT_TRUE(comesToHold([&] { return process->isFrontProcess(); }));
+    EXPECT_TRUE(eventually([&] { return process->isFrontProcess(); }));
 }

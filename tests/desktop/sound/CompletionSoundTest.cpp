@@ -7,7 +7,7 @@
 #include "Platform/NativePlatform.h"
 #include "Platform/Sounds.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/sound/EventSoundSettings.h"
 #include "tests/desktop/sound/SoundServer.h"
 
@@ -66,7 +66,7 @@ protected:
              .name = u"marker"_s,
              .device = SoundServer::speakers,
              .ended = [&isOver](bool) { isOver = true; }});
-        return comesToHold([&] { return isOver.load() && recorder.seconds() > 0.45; });
+        return eventually([&] { return isOver.load() && recorder.seconds() > 0.45; });
     }
 
     InstallerWinController &controller() { return *m_controller; }
@@ -88,7 +88,7 @@ TEST_F(CompletionSoundTest, anInstallationEndsWithItsSoundWhereAlertsAreHeard) {
     start({u"-completionSound"_s, u"YES"_s});
     auto *const button = controller().window().findChild<QPushButton *>(u"installButton"_s);
     button->click();
-    EXPECT_TRUE(comesToHold([&] { return onHeadset.seconds() > doneSeconds; }));
+    EXPECT_TRUE(eventually([&] { return onHeadset.seconds() > doneSeconds; }));
     EXPECT_GT(onHeadset.peak(), leastOfDone);
     EXPECT_LT(onSpeakers.peak(), silent);
     button->click(); // "OK"
@@ -134,7 +134,7 @@ TEST_F(CompletionSoundTest, theProgramFindsTheSoundInItsBundle) {
     QProcess installer;
     installer.start(QStringLiteral(INSTALLER "/Contents/Linux/VelmoraInstaller"),
                     {u"-completionSound"_s, u"YES"_s});
-    EXPECT_TRUE(comesToHold([&] { return recorder.seconds() > doneSeconds; }));
+    EXPECT_TRUE(eventually([&] { return recorder.seconds() > doneSeconds; }));
     EXPECT_GT(recorder.peak(), leastOfDone * 0.9F * 0.9F * 0.9F);
     installer.terminate();
     installer.waitForFinished();

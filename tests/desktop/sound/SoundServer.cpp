@@ -3,7 +3,7 @@
 
 #include "tests/desktop/sound/SoundServer.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 
 #include <QDir>
 
@@ -58,7 +58,7 @@ void SoundServer::start() {
         arguments << u"-L"_s << outputArguments(identifier).join(u' ');
     m_process.start(u"pulseaudio"_s, arguments);
     ASSERT_TRUE(m_process.waitForStarted());
-    ASSERT_TRUE(comesToHold([] { return control({u"info"_s}).contains("Server Name"); }));
+    ASSERT_TRUE(eventually([] { return control({u"info"_s}).contains("Server Name"); }));
     control({u"set-default-sink"_s, speakers});
 }
 
@@ -102,7 +102,7 @@ SoundRecorder::SoundRecorder(const QString &output) {
                     {u"--device="_s + output + u".monitor"_s, u"--raw"_s, u"--latency-msec=10"_s,
                      u"--format=float32le"_s, u"--channels=1"_s, u"--rate=%1"_s.arg(frameRate)});
     // Silence is recorded as well: once the first of it has come, nothing is missed.
-    EXPECT_TRUE(comesToHold([this] { return m_process.bytesAvailable() > 0; }));
+    EXPECT_TRUE(eventually([this] { return m_process.bytesAvailable() > 0; }));
 }
 
 SoundRecorder::~SoundRecorder() {

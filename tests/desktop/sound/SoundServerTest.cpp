@@ -7,7 +7,7 @@
 #include "ZTStuff/CocoaExtensions/SoundExtensions.h"
 #include "ZTStuff/CocoaExtensions/ZTSound.h"
 
-#include "tests/desktop/process/DesktopWait.h"
+#include "tests/Waiting.h"
 #include "tests/desktop/sound/EventSoundSettings.h"
 #include "tests/desktop/sound/SoundServer.h"
 #include "tests/fakes/PlatformWith.h"
@@ -64,7 +64,7 @@ protected:
         std::optional<bool> end;
         sound.setFinishedListener([&end](bool completely) { end = completely; });
         SoundExtensions::playAsSoundEffect(sound);
-        EXPECT_TRUE(comesToHold([&end] { return end.has_value(); }));
+        EXPECT_TRUE(eventually([&end] { return end.has_value(); }));
         sound.setFinishedListener({});
         return end.value_or(false);
     }
@@ -78,7 +78,7 @@ protected:
 
     // What was played has arrived, once it is quiet again: a recorder is a little behind.
     static bool isHeard(SoundRecorder &recorder, double seconds) {
-        return comesToHold([&] { return recorder.seconds() > seconds - 0.02; });
+        return eventually([&] { return recorder.seconds() > seconds - 0.02; });
     }
 
     SoundServer server;
@@ -129,7 +129,7 @@ TEST_F(SoundServerTest, anOutputThatGoesBeforeTheSoundBeginsIsReplaced) {
     std::optional<bool> end;
     sound->setFinishedListener([&end](bool completely) { end = completely; });
     sound->play();
-    EXPECT_TRUE(comesToHold([&end] { return end.has_value(); }));
+    EXPECT_TRUE(eventually([&end] { return end.has_value(); }));
     EXPECT_EQ(end, true);
     EXPECT_TRUE(isHeard(onSpeakers, tone.seconds));
 }
@@ -173,7 +173,7 @@ TEST_F(SoundServerTest, whatIsStoredForEventSoundsStaysAsItIs) {
     EXPECT_TRUE(playsToTheEnd(*sound));
     ASSERT_TRUE(sound->setPlaybackDeviceIdentifier(SoundServer::speakers));
     EXPECT_TRUE(sound->play());
-    EXPECT_TRUE(comesToHold([&] { return !sound->isPlaying(); }));
+    EXPECT_TRUE(eventually([&] { return !sound->isPlaying(); }));
     EXPECT_NEAR(SoundExtensions::alertVolume(), 0.4F, 1e-3F);
     EXPECT_EQ(SoundExtensions::systemAudioDeviceID(*sound), SoundServer::headset);
 }
@@ -181,7 +181,7 @@ TEST_F(SoundServerTest, whatIsStoredForEventSoundsStaysAsItIs) {
 TEST_F(SoundServerTest, theMixerKnowsTheSoundAndItsRole) {
     const ZTSound::Pointer sound = makeLongTone();
     SoundExtensions::playAsSoundEffect(*sound);
-    ASSERT_TRUE(comesToHold(SoundServer::isPlaying));
+    ASSERT_TRUE(eventually(SoundServer::isPlaying));
     const QByteArray played = SoundServer::control({u"list"_s, u"sink-inputs"_s});
     EXPECT_TRUE(played.contains("media.role = \"event\"")) << played.constData();
     EXPECT_TRUE(played.contains("media.name = \"Long\"")) << played.constData();
@@ -190,10 +190,10 @@ TEST_F(SoundServerTest, theMixerKnowsTheSoundAndItsRole) {
 TEST_F(SoundServerTest, aStoppedSoundIsSilentAtOnce) {
     const ZTSound::Pointer sound = makeLongTone();
     SoundExtensions::playAsSoundEffect(*sound);
-    ASSERT_TRUE(comesToHold(SoundServer::isPlaying));
+    ASSERT_TRUE(eventually(SoundServer::isPlaying));
     EXPECT_TRUE(sound->stop());
     EXPECT_FALSE(sound->isPlaying());
-    EXPECT_TRUE(comesToHold([] { return !SoundServer::isPlaying(); }));
+    EXPECT_TRUE(eventually([] { return !SoundServer::isPlaying(); }));
 }
 
 TEST_F(SoundServerTest, aRestartOfTheServerIsNotNoticed) {
@@ -216,19 +216,19 @@ TEST_F(SoundServerTest, aServerThatWasAbsentAtFirstIsFound) {
 TEST_F(SoundServerTest, aSoundEndsWithItsServer) {
     const ZTSound::Pointer sound = makeLongTone();
     SoundExtensions::playAsSoundEffect(*sound);
-    ASSERT_TRUE(comesToHold(SoundServer::isPlaying));
+    ASSERT_TRUE(eventually(SoundServer::isPlaying));
     server.end();
-    EXPECT_TRUE(comesToHold([&] { return !sound->isPlaying(); }));
+    EXPECT_TRUE(eventually([&] { return !sound->isPlaying(); }));
     EXPECT_TRUE(fakes.log.lines().isEmpty());
 }
 
 TEST_F(SoundServerTest, aSoundEndsWithTheLastOutput) {
     const ZTSound::Pointer sound = makeLongTone();
     SoundExtensions::playAsSoundEffect(*sound);
-    ASSERT_TRUE(comesToHold(SoundServer::isPlaying));
+    ASSERT_TRUE(eventually(SoundServer::isPlaying));
     SoundServer::removeOutput(SoundServer::headset);
     SoundServer::removeOutput(SoundServer::speakers);
-    EXPECT_TRUE(comesToHold([&] { return !sound->isPlaying(); }));
+    EXPECT_TRUE(eventually([&] { return !sound->isPlaying(); }));
     // The next one finds the output that is there by then.
     SoundServer::addOutput(SoundServer::headset);
     SoundRecorder recorder(SoundServer::headset);
@@ -253,8 +253,8 @@ TEST_F(SoundServerTest, aSoundThatCouldNotBeginInTimeIsNotPlayedLate) {
                     .device = {},
                     .ended = [&hasEnded](bool) { hasEnded = true; }});
     server.resume();
-    EXPECT_TRUE(comesToHold([&hasEnded] { return hasEnded.load(); }));
-    EXPECT_TRUE(comesToHold([&impatient] { return impatient.devices().has_value(); }));
+    EXPECT_TRUE(eventually([&hasEnded] { return hasEnded.load(); }));
+    EXPECT_TRUE(eventually([&impatient] { return impatient.devices().has_value(); }));
     EXPECT_LT(recorder.peak(), silent);
 }
 

@@ -3,6 +3,7 @@
 
 // What every service for child processes does, shown by the native one and by the fake.
 
+#include "tests/Waiting.h"
 #include "tests/unit/child_processes/ShellFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -41,7 +42,7 @@ TYPED_TEST(ChildProcessesContractTest, whatAnEndedProgramPrintedCanBeRead) {
     this->implementation.expect({.questions = 2, .output = "hi\n"});
     const auto child = this->implementation.service.start(printsHi);
     ASSERT_TRUE(child);
-    EXPECT_TRUE(eventually([&] { return !(*child)->isRunning(); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return !(*child)->isRunning(); }));
     const auto output = (*child)->output();
     ASSERT_TRUE(output);
     EXPECT_EQ(*output, "hi\n");
@@ -53,7 +54,7 @@ TYPED_TEST(ChildProcessesContractTest, aProgramRunsUntilItIsTerminated) {
     ASSERT_TRUE(child);
     EXPECT_TRUE((*child)->isRunning());
     (*child)->terminate();
-    EXPECT_TRUE(eventually([&] { return !(*child)->isRunning(); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return !(*child)->isRunning(); }));
 }
 
 TYPED_TEST(ChildProcessesContractTest, waitingEndsWithTheProgram) {
@@ -77,7 +78,7 @@ TYPED_TEST(ChildProcessesContractTest, anEndedProgramMayBeTerminated) {
     this->implementation.expect({.questions = 0, .output = {}});
     const auto child = this->implementation.service.start(printsHi);
     ASSERT_TRUE(child);
-    EXPECT_TRUE(eventually([&] { return !(*child)->isRunning(); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return !(*child)->isRunning(); }));
     (*child)->terminate();
     EXPECT_FALSE((*child)->isRunning());
 }

@@ -3,6 +3,7 @@
 
 // What becomes of children when the service goes.
 
+#include "tests/Waiting.h"
 #include "tests/unit/child_processes/ShellFixture.h"
 
 #include <cerrno>
@@ -38,7 +39,7 @@ TEST_F(LeftChildrenTest, whoWasAskedToEndIsForcedWhenTheServiceGoes) {
             service.start(program("trap '' TERM; echo $$ >" + pidFile + ".new; mv " + pidFile +
                                   ".new " + pidFile + "; while :; do sleep 600; done"));
         ASSERT_TRUE(child);
-        ASSERT_TRUE(eventually([&] { return zt::testing::itemExists(pidFile); }));
+        ASSERT_TRUE(eventuallyWithoutEvents([&] { return zt::testing::itemExists(pidFile); }));
         (*child)->terminate();
         EXPECT_TRUE((*child)->isRunning());
     }
@@ -69,7 +70,7 @@ TEST_F(LeftChildrenTest, aChildThatIsLetGoOfGoesOnAndLeavesNoZombie) {
     EXPECT_TRUE(temporaryFiles().empty());
     EXPECT_FALSE(zt::testing::itemExists(ended));
     folder.makeFile("end");
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
     EXPECT_TRUE(zt::testing::itemExists(ended));
 }
 
@@ -82,8 +83,8 @@ TEST_F(LeftChildrenTest, whoIsAskedToEndHasTimeToTidyUp) {
             service.start(program("trap 'sleep 0.1; : >" + tidied + "; exit' TERM; : >" + ready +
                                   "; while :; do sleep 0.01; done"));
         ASSERT_TRUE(child);
-        ASSERT_TRUE(eventually([&] { return zt::testing::itemExists(ready); }));
+        ASSERT_TRUE(eventuallyWithoutEvents([&] { return zt::testing::itemExists(ready); }));
         (*child)->terminate();
     }
-    EXPECT_TRUE(eventually([&] { return zt::testing::itemExists(tidied); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return zt::testing::itemExists(tidied); }));
 }

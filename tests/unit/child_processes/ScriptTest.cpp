@@ -3,6 +3,7 @@
 
 // Scripts that end by themselves, that are ended, and that cannot be run.
 
+#include "tests/Waiting.h"
 #include "tests/unit/child_processes/ShellFixture.h"
 #include "tests/unit/copy/ChildProcess.h"
 
@@ -121,15 +122,15 @@ TEST_F(ScriptTest, aTimeoutAnswersWhatWasPrintedBefore) {
               u"before\n"_s);
     EXPECT_EQ(fakes.log.lines(), QStringList{u"script timeout: tool (null)"_s});
     EXPECT_THAT(temporaryFiles(), IsEmpty());
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ScriptTest, aTimeoutEndsAllThatWasStarted) {
     const std::string pidFile = folder.path("pid");
     holdClockUntil(folder.path("ready"));
     run("sleep 600 & echo $! >" + pidFile + "; echo >" + folder.path("ready") + "; wait", 0.25);
-    EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isGone(processIn(pidFile)); }));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ScriptTest, whoRefusesToEndIsForced) {
@@ -138,24 +139,24 @@ TEST_F(ScriptTest, whoRefusesToEndIsForced) {
     run("trap '' TERM; sleep 600 & echo $! >" + pidFile + "; echo >" + folder.path("ready") +
             "; wait",
         0.25);
-    EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isGone(processIn(pidFile)); }));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ScriptTest, whoRefusesIsForcedAlsoWhenTheScriptItselfHasEnded) {
     const std::string pidFile = folder.path("pid");
     holdClockUntil(pidFile);
     run("sh -c \"trap '' TERM; echo \\$\\$ >" + pidFile + "; exec sleep 600\" & wait", 0.25);
-    EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isGone(processIn(pidFile)); }));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ScriptTest, aStoppedScriptEndsAtItsTimeout) {
     const std::string pidFile = folder.path("pid");
     holdClockUntil(pidFile);
     run("echo $$ >" + pidFile + "; kill -STOP $$", 0.25);
-    EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isGone(processIn(pidFile)); }));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ScriptTest, whoPrintsForEverIsEndedAndHeardUntilThen) {
@@ -164,14 +165,14 @@ TEST_F(ScriptTest, whoPrintsForEverIsEndedAndHeardUntilThen) {
     const auto output = run("echo $$ >" + pidFile + "; exec yes", 0.02);
     ASSERT_TRUE(output);
     EXPECT_EQ(output->count(u'y') + output->count(u'\n'), output->size());
-    EXPECT_TRUE(eventually([&] { return isGone(processIn(pidFile)); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isGone(processIn(pidFile)); }));
     EXPECT_THAT(temporaryFiles(), IsEmpty());
 }
 
 TEST_F(ScriptTest, withoutTimeARunningScriptIsEndedAtOnce) {
     EXPECT_EQ(run("exec sleep 600", -1), u""_s);
     EXPECT_THAT(fakes.log.lines(), SizeIs(1));
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 struct FailureRow {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/Waiting.h"
 #include "tests/unit/child_processes/ShellFixture.h"
 #include "tests/unit/copy/ChildProcess.h"
 
@@ -68,7 +69,7 @@ TEST_F(ShellCommandTest, whoClosesItsOutputMayLiveOnAndLeavesNoZombie) {
     const pid_t child = output->trimmed().toInt();
     EXPECT_FALSE(isGone(child));
     ::kill(child, SIGKILL);
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
 }
 
 TEST_F(ShellCommandTest, aCommandRunsInTheGroupOfThisProcess) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "tests/unit/child_processes/ShellFixture.h"
+#include "tests/Waiting.h"
 
 #include <chrono>
 #include <thread>
@@ -19,16 +20,6 @@ void ConditionalClock::sleepFor(std::chrono::microseconds duration) {
     if (!condition || condition())
         m_elapsed = m_elapsed.load() + duration;
     std::this_thread::sleep_for(200us); // lets the children have the processor
-}
-
-bool eventually(const std::function<bool()> &condition) {
-    constexpr int hopeless = 30'000; // milliseconds
-    for (int wait = 0; wait < hopeless; ++wait) {
-        if (condition())
-            return true;
-        std::this_thread::sleep_for(1ms);
-    }
-    return false;
 }
 
 bool isGone(pid_t pid) {

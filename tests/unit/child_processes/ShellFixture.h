@@ -8,6 +8,7 @@
 #include "Platform/linux/SpawnedChildProcesses.h"
 
 #include "ZTStuff/ZTClasses/ZTUtilities.h"
+#include "tests/Waiting.h"
 
 #include "tests/fakes/PlatformWith.h"
 #include "tests/unit/copy/ScopedEnvironment.h"
@@ -37,10 +38,6 @@ public:
 private:
     std::atomic<std::chrono::microseconds> m_elapsed{};
 };
-
-// Waits until the condition holds. False when it does not come to hold for so long that something
-// must be wrong.
-bool eventually(const std::function<bool()> &condition);
 
 // Whether the process has ended, noticed by its parent or not.
 bool isGone(pid_t pid);

@@ -3,6 +3,7 @@
 
 // Many scripts and commands at once, on many threads.
 
+#include "tests/Waiting.h"
 #include "tests/unit/child_processes/ShellFixture.h"
 
 #include <atomic>
@@ -51,7 +52,7 @@ TEST_F(ShellThreadsTest, timeoutsOnManyThreadsEndEverything) {
         });
     }
     threads.clear();
-    EXPECT_TRUE(eventually(hasNoChildren));
+    EXPECT_TRUE(eventuallyWithoutEvents(hasNoChildren));
     EXPECT_EQ(fakes.log.lines().size(), threadCount);
     EXPECT_TRUE(temporaryFiles().empty());
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/Waiting.h"
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include <QMouseEvent>
@@ -29,7 +30,7 @@ protected:
                               Qt::AltModifier);
             QApplication::sendEvent(button, &event);
         }
-        waitUntil([button] { return button->isEnabled(); });
+        ASSERT_TRUE(eventually([button] { return button->isEnabled(); }));
     }
 
     bool logged(const QString &line) { return platform.log.lines().contains(line); }
@@ -52,7 +53,7 @@ TEST_F(AuthorizedInstallTest, theOptionKeyForcesTheToolAlsoWhereThisUserMayWrite
 TEST_F(AuthorizedInstallTest, withoutTheKeyNobodyIsAsked) {
     start();
     field<QPushButton>("installButton")->click();
-    waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+    ASSERT_TRUE(eventually([this] { return field<QPushButton>("installButton")->isEnabled(); }));
     EXPECT_FALSE(logged(u"enforcing authorization"_s));
     EXPECT_EQ(platform.authorization.references, 0);
 }

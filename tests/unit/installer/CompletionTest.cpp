@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ZTStuff/ZTClasses/ZTDynamicColor.h"
+#include "tests/Waiting.h"
 
 #include "tests/unit/installer/InstallerFixture.h"
 
@@ -115,14 +116,14 @@ TEST_F(CompletionTest, soundIsThoughtOfOnlyOnceTheInstallationBegins) {
     start({u"-completionSound"_s, u"YES"_s});
     EXPECT_EQ(platform.sounds.readyRequests, 0);
     field<QPushButton>("installButton")->click();
-    waitUntil([this] { return shown("checkmarkField"); });
+    ASSERT_TRUE(eventually([this] { return shown("checkmarkField"); }));
     EXPECT_EQ(platform.sounds.readyRequests, 1);
 }
 
 TEST_F(CompletionTest, withoutASoundToPlayNoneIsThoughtOf) {
     start();
     field<QPushButton>("installButton")->click();
-    waitUntil([this] { return shown("checkmarkField"); });
+    ASSERT_TRUE(eventually([this] { return shown("checkmarkField"); }));
     EXPECT_EQ(platform.sounds.readyRequests, 0);
 }
 

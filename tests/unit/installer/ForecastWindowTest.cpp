@@ -5,6 +5,7 @@
 
 #include "Installer/Sources/ForecastView.h"
 #include "Installer/Sources/LogWindow.h"
+#include "tests/Waiting.h"
 
 #include "tests/unit/installer/InstallerFixture.h"
 
@@ -33,7 +34,7 @@ protected:
     // Starts it up and waits for the first lines.
     void startTelling() {
         start();
-        waitUntil([this] { return !told().isEmpty(); });
+        ASSERT_TRUE(eventually([this] { return !told().isEmpty(); }));
     }
 
     void startDemo(std::int32_t pid) {
@@ -50,7 +51,7 @@ TEST_F(ForecastWindowTest, theWindowIsThereFirst) {
     EXPECT_TRUE(told().isEmpty());
     EXPECT_FALSE(shown("forecastField"));
     EXPECT_EQ(platform.fileSystems.spaceQuestions, 0);
-    waitUntil([this] { return shown("forecastField"); });
+    ASSERT_TRUE(eventually([this] { return shown("forecastField"); }));
     EXPECT_TRUE(tells(u"of space are needed"_s));
 }
 
@@ -79,9 +80,9 @@ TEST_F(ForecastWindowTest, whatIsStartedAndEndedMeanwhileIsToldAtOnce) {
     startTelling();
     EXPECT_FALSE(tells(u"Demo is running"_s));
     startDemo(11);
-    waitUntil([this] { return tells(u"Demo is running"_s); });
+    ASSERT_TRUE(eventually([this] { return tells(u"Demo is running"_s); }));
     platform.processManager.end(11);
-    waitUntil([this] { return !tells(u"Demo is running"_s); });
+    ASSERT_TRUE(eventually([this] { return !tells(u"Demo is running"_s); }));
 }
 
 TEST_F(ForecastWindowTest, whoComesBackToTheWindowSeesHowThingsAreNow) {
@@ -89,7 +90,7 @@ TEST_F(ForecastWindowTest, whoComesBackToTheWindowSeesHowThingsAreNow) {
     makeFolder(u"Applications/Demo.app"_s);
     QEvent activation(QEvent::WindowActivate);
     QApplication::sendEvent(&controller().window(), &activation);
-    waitUntil([this] { return tells(u"The copy that is there now"_s); });
+    ASSERT_TRUE(eventually([this] { return tells(u"The copy that is there now"_s); }));
 }
 
 TEST_F(ForecastWindowTest, nothingIsToldOnceInstallWasPressed) {
@@ -97,7 +98,7 @@ TEST_F(ForecastWindowTest, nothingIsToldOnceInstallWasPressed) {
     field<QPushButton>("installButton")->click();
     EXPECT_FALSE(shown("forecastField"));
     EXPECT_TRUE(field<QPushButton>("installButton")->accessibleDescription().isEmpty());
-    waitUntil([this] { return shown("checkmarkField"); });
+    ASSERT_TRUE(eventually([this] { return shown("checkmarkField"); }));
     startDemo(11);
     QEvent activation(QEvent::WindowActivate);
     QApplication::sendEvent(&controller().window(), &activation);
@@ -139,7 +140,7 @@ TEST_F(ShowLogTest, anotherTryTakesTheButtonAway) {
     controller().installationFinished(u"It failed."_s);
     field<QPushButton>("installButton")->click();
     EXPECT_FALSE(shown("logButton"));
-    waitUntil([this] { return shown("checkmarkField"); });
+    ASSERT_TRUE(eventually([this] { return shown("checkmarkField"); }));
 }
 
 TEST_F(ShowLogTest, aSetUpErrorCanBeLookedInto) {

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
+#include "tests/Waiting.h"
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include <algorithm>
@@ -16,7 +17,8 @@ protected:
         platform.workspace.iconRequests.clear(); // of filling the window
         platform.clock.sleeps.clear();
         field<QPushButton>("installButton")->click();
-        waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+        EXPECT_TRUE(
+            eventually([this] { return field<QPushButton>("installButton")->isEnabled(); }));
         QStringList lines = platform.log.lines();
         return lines.mid(std::max<qsizetype>(0, lines.indexOf(u"successfully copied"_s)));
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "Platform/posix/StagedCopy.h"
+#include "tests/Waiting.h"
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include <QProgressBar>
@@ -20,7 +21,8 @@ protected:
     // Presses Install and waits for the outcome.
     void install() {
         pressInstall();
-        waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+        ASSERT_TRUE(
+            eventually([this] { return field<QPushButton>("installButton")->isEnabled(); }));
     }
 };
 
@@ -59,7 +61,7 @@ TEST_F(InstallTest, bothButtonsRestWhileTheInstallationRuns) {
     pressInstall();
     EXPECT_FALSE(field<QPushButton>("installButton")->isEnabled());
     EXPECT_FALSE(field<QPushButton>("cancelButton")->isEnabled());
-    waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+    ASSERT_TRUE(eventually([this] { return field<QPushButton>("installButton")->isEnabled(); }));
     EXPECT_FALSE(shown("progressIndicator"));
 }
 

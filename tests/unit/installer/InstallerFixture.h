@@ -50,13 +50,6 @@ protected:
     // Shown, or to be shown as soon as its page is.
     bool shown(const char *name) { return !field<QWidget>(name)->isHidden(); }
 
-    // Runs the event loop until the condition holds; the test's own time limit ends a failure.
-    template <typename Condition>
-    void waitUntil(Condition condition) {
-        while (!condition())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-    }
-
     // Whether the action makes the application quit.
     template <typename Action>
     bool quits(Action action) {

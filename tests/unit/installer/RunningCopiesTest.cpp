@@ -4,6 +4,7 @@
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
+#include "tests/Waiting.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -29,7 +30,8 @@ protected:
 
     void install() {
         field<QPushButton>("installButton")->click();
-        waitUntil([this] { return field<QPushButton>("installButton")->isEnabled(); });
+        ASSERT_TRUE(
+            eventually([this] { return field<QPushButton>("installButton")->isEnabled(); }));
     }
 
     bool isInstalled() { return QFileInfo::exists(path(u"Applications/Demo.app"_s)); }

@@ -4,6 +4,7 @@
 #include "tests/unit/installer/InstallerFixture.h"
 
 #include "Installer/Sources/IconView.h"
+#include "tests/Waiting.h"
 
 #include <QMessageBox>
 #include <QPixmap>
@@ -15,6 +16,7 @@ using namespace Qt::StringLiterals;
 class StartupTest : public InstallerFixture {
 protected:
     int page() { return field<QTabWidget>("tabView")->currentIndex(); }
+    QString readMeText() { return field<QTextBrowser>("readMeTextView")->toPlainText(); }
     QMessageBox *findAlert() { return controller().window().findChild<QMessageBox *>(); }
 };
 
@@ -81,7 +83,7 @@ TEST_F(StartupTest, aReadMeIsTheFirstPage) {
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
     EXPECT_EQ(title("installButton"), u"Continue"_s);
     EXPECT_EQ(title("cancelButton"), u"Cancel"_s);
-    EXPECT_EQ(field<QTextBrowser>("readMeTextView")->toPlainText().trimmed(), u"Please read me."_s);
+    EXPECT_TRUE(eventually([this] { return readMeText().trimmed() == u"Please read me."; }));
     controller().selectTab(InstallerWinController::MainPage);
     EXPECT_EQ(title("installButton"), u"Install"_s);
     EXPECT_EQ(title("cancelButton"), u"Go Back"_s);
@@ -107,8 +109,7 @@ TEST_F(StartupTest, aReadMeThatIsMissingLeavesTheMainPageWithAWayBack) {
 TEST_F(StartupTest, aReadMeThatCannotBeShownSaysWhereItIs) {
     start({u"-readMePath"_s, path(u"Applications"_s)});
     EXPECT_EQ(page(), InstallerWinController::ReadMePage);
-    EXPECT_TRUE(
-        field<QTextBrowser>("readMeTextView")->toPlainText().contains(path(u"Applications"_s)));
+    EXPECT_TRUE(eventually([this] { return readMeText().contains(path(u"Applications"_s)); }));
 }
 
 TEST_F(StartupTest, theIconComesFromTheGivenFileFirst) {

@@ -7,9 +7,9 @@
 #include "Platform/linux/ProcProcessManager.h"
 #include "Platform/linux/ProcSerialNumber.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/FakeWindowSystem.h"
 #include "tests/unit/process/ChildProcess.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 
 #include <gtest/gtest.h>
@@ -51,7 +51,7 @@ protected:
     ChildProcess start() const { return ChildProcess({TestBundles::program(m_bundle), "600"}); }
 
     bool hears(const std::vector<Event> &events) {
-        return runLoopUntil([&] { return m_events == events; });
+        return eventually([&] { return m_events == events; });
     }
 
     TestBundles m_bundles;
@@ -120,7 +120,7 @@ TEST_F(ApplicationWatchTest, anApplicationThatLoadsAnotherProgramHasNotEnded) {
     ChildProcess child({"/bin/sh", script.toStdString()}, ChildProcess::Input::Lines);
     watch();
     child.sendLine("go");
-    ASSERT_TRUE(waitUntil([this] { return ownApplications().isEmpty(); }));
+    ASSERT_TRUE(eventuallyWithoutEvents([this] { return ownApplications().isEmpty(); }));
     const ChildProcess another = start();
     EXPECT_TRUE(hears({Event::Launched}));
 }

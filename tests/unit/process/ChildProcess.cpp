@@ -6,7 +6,9 @@
 #include "Platform/linux/ProcFs.h"
 #include "Platform/posix/SystemCalls.h"
 
-#include "tests/unit/process/EventLoop.h"
+#include "tests/Waiting.h"
+
+#include <gtest/gtest.h>
 
 #include <fcntl.h>
 #include <signal.h> // kill
@@ -51,7 +53,7 @@ ChildProcess::ChildProcess(const std::vector<std::string> &commandLine, Input in
         giveUp(arguments[0]);
     // The child is let go of a little before the new program has its arguments.
     const zt::ProcFs procFs;
-    waitUntil([&] { return !procFs.commandLine(m_pid).empty(); });
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return !procFs.commandLine(m_pid).empty(); }));
 }
 
 ChildProcess::~ChildProcess() {

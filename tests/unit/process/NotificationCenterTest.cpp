@@ -3,7 +3,7 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 
-#include "tests/unit/process/EventLoop.h"
+#include "tests/Waiting.h"
 
 #include <QStringList>
 
@@ -71,7 +71,7 @@ TEST_F(NotificationCenterTest, aQueuedNotificationWaitsForTheEventLoop) {
     const auto observation = observe(u"name"_s);
     m_queue.enqueue(notification(u"name"_s, u"a"_s));
     EXPECT_TRUE(m_seen.isEmpty());
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_seen, QStringList{u"a"_s});
 }
 
@@ -79,7 +79,7 @@ TEST_F(NotificationCenterTest, ofSeveralWithOneNameAndSenderTheFirstIsPosted) {
     const auto observation = observe(u"name"_s);
     m_queue.enqueue(notification(u"name"_s, u"a"_s));
     m_queue.enqueue(notification(u"name"_s, u"b"_s));
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_seen, QStringList{u"a"_s});
 }
 
@@ -89,7 +89,7 @@ TEST_F(NotificationCenterTest, anotherSenderOrNameIsPostedToo) {
     m_queue.enqueue(notification(u"name"_s, u"a"_s));
     m_queue.enqueue(notification(u"name"_s, u"b"_s, std::make_shared<int>(1)));
     m_queue.enqueue(notification(u"other"_s, u"c"_s));
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_seen, (QStringList{u"a"_s, u"b"_s, u"c"_s}));
 }
 
@@ -97,7 +97,7 @@ TEST_F(NotificationCenterTest, theNextRoundPostsAgain) {
     const auto observation = observe(u"name"_s);
     for (const QString &value : {u"a"_s, u"b"_s}) {
         m_queue.enqueue(notification(u"name"_s, value));
-        runLoopOnce();
+        QCoreApplication::processEvents();
     }
     EXPECT_EQ(m_seen, (QStringList{u"a"_s, u"b"_s}));
 }
@@ -110,7 +110,7 @@ TEST_F(NotificationCenterTest, whatAnObserverEnqueuesIsNotLost) {
                 m_queue.enqueue(notification(u"name"_s, u"b"_s));
         });
     m_queue.enqueue(notification(u"name"_s, u"a"_s));
-    EXPECT_TRUE(runLoopUntil([this] { return m_seen.size() == 2; }));
+    EXPECT_TRUE(eventually([this] { return m_seen.size() == 2; }));
     EXPECT_EQ(m_seen, (QStringList{u"a"_s, u"b"_s}));
 }
 
@@ -122,7 +122,7 @@ TEST_F(NotificationCenterTest, aSenderLivesUntilItsNotificationWasPosted) {
         m_queue.enqueue(notification(u"name"_s, u"a"_s, object));
     }
     EXPECT_FALSE(sender.expired());
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_TRUE(sender.expired());
 }
 

@@ -7,9 +7,9 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/FakeWindowSystem.h"
 #include "tests/unit/process/ChildProcess.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 
 #include <QFile>
@@ -93,7 +93,7 @@ TEST(PidReuseTest, aProcessWithAnIdThatWasUsedBeforeIsAnotherOne) {
     const pid_t pid = first.pid();
     const ProcessSerialNumber firstNumber = *manager.processWithPid(pid);
     EXPECT_EQ(manager.information(firstNumber)->name, u"First"_s);
-    EXPECT_TRUE(runLoopUntil([&] { return events.size() == 1; }));
+    EXPECT_TRUE(eventually([&] { return events.size() == 1; }));
     for (int round = 0; round < 3; ++round) {
         first.kill();
         first.reap();
@@ -109,7 +109,7 @@ TEST(PidReuseTest, aProcessWithAnIdThatWasUsedBeforeIsAnotherOne) {
         EXPECT_EQ(manager.runningApplications(), QList{*secondNumber});
     }
     // The listener hears of the end of the first one and of the start of the last.
-    EXPECT_TRUE(runLoopUntil([&] {
+    EXPECT_TRUE(eventually([&] {
         return std::ranges::count(events, zt::ProcessManager::Event::Terminated) >= 1 &&
                std::ranges::count(events, zt::ProcessManager::Event::Launched) >= 2;
     }));

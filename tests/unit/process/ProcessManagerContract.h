@@ -9,7 +9,7 @@
 
 #include "Platform/ProcessManager.h"
 
-#include "tests/unit/process/EventLoop.h"
+#include "tests/Waiting.h"
 
 #include <gtest/gtest.h>
 
@@ -95,7 +95,7 @@ TYPED_TEST_P(ProcessManagerContractTest, theListenerHearsOfStartsEndsAndTheFront
     this->manager().setEventListener(
         [&](zt::ProcessManager::Event event) { events.push_back(event); });
     const auto hasHeard = [&](zt::ProcessManager::Event event) {
-        return runLoopUntil([&] { return std::ranges::count(events, event) > 0; });
+        return eventually([&] { return std::ranges::count(events, event) > 0; });
     };
     const std::int32_t pid = this->implementation.start();
     EXPECT_TRUE(hasHeard(zt::ProcessManager::Event::Launched));
@@ -113,7 +113,7 @@ TYPED_TEST_P(ProcessManagerContractTest, noListenerHearsNothing) {
     const std::int32_t pid = this->implementation.start();
     this->implementation.bringToFront(pid);
     this->implementation.end(pid);
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(events, 0);
 }
 

@@ -6,9 +6,9 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/PlatformWith.h"
 #include "tests/unit/process/ChildProcess.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 
 #include "ZTStuff/ZTClasses/ZTProcess.h"
@@ -117,7 +117,7 @@ TEST_F(ProcessStressTest, everyLookUpFindsItsProcessAndNothingStaysBehind) {
             return;
         if (lookUp % lookUpsBetweenChanges == 0) {
             replaceOne();
-            runLoopOnce();
+            QCoreApplication::processEvents();
         }
     }
     // The list knows exactly those that run.
@@ -129,11 +129,11 @@ TEST_F(ProcessStressTest, everyLookUpFindsItsProcessAndNothingStaysBehind) {
 
     // Once the watch has told of the ends, no object of an ended process is left.
     const auto isGone = [](const std::weak_ptr<ZTProcess> &object) { return object.expired(); };
-    EXPECT_TRUE(runLoopUntil([&] { return std::ranges::all_of(m_ended, isGone); }));
+    EXPECT_TRUE(eventually([&] { return std::ranges::all_of(m_ended, isGone); }));
     for (const Running &running : m_running)
         m_ended.push_back(running.object);
     m_running.clear();
-    EXPECT_TRUE(runLoopUntil([&] { return std::ranges::all_of(m_ended, isGone); }));
+    EXPECT_TRUE(eventually([&] { return std::ranges::all_of(m_ended, isGone); }));
     EXPECT_TRUE(listedPids().isEmpty());
     // The descriptors that held the processes are closed again.
     EXPECT_LE(openDescriptors(), descriptorsBefore + 8);

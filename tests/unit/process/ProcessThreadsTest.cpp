@@ -6,9 +6,9 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/PlatformWith.h"
 #include "tests/unit/process/ChildProcess.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 #include "tests/unit/process/ZTProcessFixture.h"
 
@@ -86,7 +86,7 @@ TEST_F(ProcessThreadsTest, lookUpsAndEventsDoNotMeet) {
         manager.bringToFront(pid);
         if (pid > 10)
             manager.end(pid - 8);
-        runLoopOnce();
+        QCoreApplication::processEvents();
     }
 }
 
@@ -119,7 +119,7 @@ TEST(RealProcessThreadsTest, realProcessesComeAndGoMeanwhile) {
         for (int round = 0; round < 30 || lookers.rounds() < 10; ++round) {
             const ChildProcess child({TestBundles::program(bundle), "600"});
             EXPECT_TRUE(ZTProcess::processWithPID(child.pid()));
-            runLoopOnce();
+            QCoreApplication::processEvents();
         }
     }
     manager.setEventListener({});

@@ -6,9 +6,9 @@
 #include "Platform/linux/LinuxBundles.h"
 #include "Platform/linux/ProcProcessManager.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/FakeWindowSystem.h"
 #include "tests/unit/process/ChildProcess.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 
 #include <QDir>
@@ -102,7 +102,7 @@ TEST_F(RealProcessesTest, aProcessThatLoadsAnotherProgramIsTheSameProcess) {
     const ProcessSerialNumber before = serialNumber(child);
     EXPECT_FALSE(isListed(before));
     child.sendLine("go");
-    EXPECT_TRUE(waitUntil([&] { return isListed(before); }));
+    EXPECT_TRUE(eventuallyWithoutEvents([&] { return isListed(before); }));
     EXPECT_EQ(location(child), bundle);
 }
 
@@ -139,7 +139,8 @@ TEST_F(RealProcessesTest, theStartIsToldToTheTick) {
 
 TEST_F(RealProcessesTest, aBusyProcessUsesProcessorTime) {
     const ChildProcess child({"/bin/sh", "-c", "while :; do :; done"});
-    EXPECT_TRUE(waitUntil([&] { return m_manager.userProcessorTime(child.pid()) > 0.0; }));
+    EXPECT_TRUE(
+        eventuallyWithoutEvents([&] { return m_manager.userProcessorTime(child.pid()) > 0.0; }));
 }
 
 TEST_F(RealProcessesTest, thisProcessIsTheLauncherOfItsChild) {
@@ -169,7 +170,7 @@ TEST_F(RealProcessesTest, aStoppedProcessIsWokenUp) {
     const ChildProcess child({"/bin/sleep", "600"});
     const zt::ProcFs procFs;
     const auto stateIs = [&](char state) {
-        return waitUntil([&] { return procFs.stat(child.pid())->state == state; });
+        return eventuallyWithoutEvents([&] { return procFs.stat(child.pid())->state == state; });
     };
     child.sendSignal(SIGSTOP);
     ASSERT_TRUE(stateIs('T'));

@@ -5,7 +5,7 @@
 
 #include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 
-#include "tests/unit/process/EventLoop.h"
+#include "tests/Waiting.h"
 
 #include <thread>
 
@@ -25,7 +25,7 @@ protected:
     }
     ~ZTProcessNotificationsTest() override {
         m_observation = {};
-        runLoopOnce(); // nothing is left over for the next test
+        QCoreApplication::processEvents(); // nothing is left over for the next test
     }
 
     NotificationCenter::Observation m_observation;
@@ -59,24 +59,24 @@ TEST_F(ZTProcessNotificationsTest, everyKindOfLookUpListens) {
 TEST_F(ZTProcessNotificationsTest, aLookUpOnAnotherThreadListensOnTheMainThread) {
     std::thread([] { ZTProcess::allProcesses(); }).join();
     EXPECT_FALSE(manager.hasListener());
-    EXPECT_TRUE(runLoopUntil([this] { return manager.hasListener(); }));
+    EXPECT_TRUE(eventually([this] { return manager.hasListener(); }));
 }
 
 TEST_F(ZTProcessNotificationsTest, eachKindOfChangeIsNamed) {
     ZTProcess::installNotifications();
     manager.start(10, {.name = u"A"_s});
-    runLoopOnce();
+    QCoreApplication::processEvents();
     manager.bringToFront(10);
-    runLoopOnce();
+    QCoreApplication::processEvents();
     manager.end(10);
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_changes, (QStringList{u"started"_s, u"front"_s, u"ended"_s}));
 }
 
 TEST_F(ZTProcessNotificationsTest, anUnknownChangeHasNoName) {
     ZTProcess::installNotifications();
     manager.tell(static_cast<Event>(99));
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_changes, QStringList{QString()});
     EXPECT_EQ(ZTProcess::applicationLaunchEndCount(), 0);
 }
@@ -87,7 +87,7 @@ TEST_F(ZTProcessNotificationsTest, severalChangesInOneRoundAreOneNotificationOfT
     manager.bringToFront(11);
     manager.start(12, {.name = u"A"_s});
     EXPECT_TRUE(m_changes.isEmpty());
-    runLoopOnce();
+    QCoreApplication::processEvents();
     EXPECT_EQ(m_changes, QStringList{u"front"_s});
     EXPECT_EQ(ZTProcess::applicationLaunchEndCount(), 1);
 }

@@ -12,9 +12,9 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/NotificationCenter.h"
 #include "ZTStuff/ZTClasses/ZTProcess.h"
 
+#include "tests/Waiting.h"
 #include "tests/fakes/PlatformWith.h"
 #include "tests/programs/RunningProgram.h"
-#include "tests/unit/process/EventLoop.h"
 #include "tests/unit/process/TestBundles.h"
 
 #include <QRegularExpression>
@@ -69,7 +69,7 @@ protected:
             }
             isDone = true;
         });
-        const bool ended = runLoopUntil([&] { return isDone.load(); });
+        const bool ended = eventually([&] { return isDone.load(); });
         thread.join();
         return ended;
     }
@@ -108,11 +108,11 @@ TEST_F(QuitThreadsTest, allCopiesEndInOneSweepAndTheirEndsAreHeardOf) {
     RunningProgram first(commandLine);
     RunningProgram second(commandLine);
     ZTProcess::installNotifications();
-    ASSERT_TRUE(runLoopUntil([] { return ZTProcess::processWithSignature(sample) != nullptr; }));
+    ASSERT_TRUE(eventually([] { return ZTProcess::processWithSignature(sample) != nullptr; }));
     EXPECT_TRUE(sweepAsideUntilNothingIsLeft());
     EXPECT_TRUE(first.hasEnded());
     EXPECT_TRUE(second.hasEnded());
-    EXPECT_TRUE(runLoopUntil([&] { return ends > 0; }));
+    EXPECT_TRUE(eventually([&] { return ends > 0; }));
     EXPECT_EQ(ZTProcess::processWithSignature(sample), nullptr);
     EXPECT_EQ(linesOfEnds().size(), 2);
 }
@@ -122,8 +122,8 @@ TEST_F(QuitThreadsTest, copiesThatStartDuringASweepEndInTheNext) {
     RunningProgram supervisor(
         {PLAIN_PROGRAM, "supervises", "3", TestBundles::program(bundle), "600"});
     ZTProcess::installNotifications();
-    ASSERT_TRUE(runLoopUntil([] { return ZTProcess::processWithSignature(sample) != nullptr; }));
-    EXPECT_TRUE(runLoopUntil([&] {
+    ASSERT_TRUE(eventually([] { return ZTProcess::processWithSignature(sample) != nullptr; }));
+    EXPECT_TRUE(eventually([&] {
         sweepAsideUntilNothingIsLeft();
         return supervisor.hasEnded();
     }));

@@ -7,6 +7,7 @@
 #include "Installer/Sources/LogWindow.h"
 #include "Installer/Sources/Translations.h"
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTFormat.h"
+#include "tests/Waiting.h"
 
 #include "tests/unit/installer/InstallerFixture.h"
 #include "tests/unit/translations/TranslatedTexts.h"
@@ -120,7 +121,7 @@ TEST_P(LayoutTest, onBothPagesBeforeTheInstallation) {
     expectNothingIsCutOff(controller().window(), "the read-me");
     controller().selectTab(InstallerWinController::MainPage);
     expectNothingIsCutOff(controller().window(), "the main page");
-    waitUntil([this] { return shown("forecastField"); });
+    ASSERT_TRUE(eventually([this] { return shown("forecastField"); }));
     expectNothingIsCutOff(controller().window(), "what will happen");
     if (GetParam().textSize == 1) {
         EXPECT_TRUE(mainPageIsSeenWhole());
