@@ -8,6 +8,7 @@
 #include <unicode/ucnv.h>
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace {
@@ -95,13 +96,22 @@ const char *converterName(const char *name) {
     return U_SUCCESS(status) ? found : nullptr;
 }
 
-// The names last as long as ICU. Where one converter serves several encodings, the first counts.
-QHash<QByteArrayView, StringEncoding> encodingsByConverter() {
-    QHash<QByteArrayView, StringEncoding> encodings;
+char lowerCase(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+// By the names above and those of ICU's converters, in lower case. Where one converter serves
+// several encodings, the first counts.
+QHash<QByteArray, StringEncoding> encodingsByName() {
+    QHash<QByteArray, StringEncoding> encodings;
     for (const Row &row : rows) {
         const char *const converter = converterName(row.name);
-        if (converter && !encodings.contains(converter))
-            encodings.insert(converter, row.encoding);
+        if (!converter)
+            continue;
+        const QByteArray key = QByteArray(converter).toLower();
+        if (!encodings.contains(key))
+            encodings.insert(key, row.encoding);
+        encodings.insert(QByteArray(row.name).toLower(), encodings.value(key));
     }
     return encodings;
 }
@@ -118,11 +128,15 @@ std::optional<StringEncoding> encodingWithIANAName(QByteArrayView name) {
     constexpr qsizetype longestName = 60;
     if (name.isEmpty() || name.size() > longestName)
         return std::nullopt;
-    const QByteArray terminated = name.toByteArray();
-    const char *const converter = converterName(terminated.constData());
-    if (!converter)
-        return std::nullopt;
-    static const QHash<QByteArrayView, StringEncoding> encodings = encodingsByConverter();
-    const auto found = encodings.constFind(converter);
+    static const QHash<QByteArray, StringEncoding> encodings = encodingsByName();
+    std::array<char, longestName + 1> key{};
+    std::ranges::transform(name, key.begin(), lowerCase);
+    auto found = encodings.constFind(QByteArray::fromRawData(key.data(), name.size()));
+    if (found == encodings.cend()) {
+        // ICU knows a thousand further spellings; looking through them takes longer.
+        const char *const converter = converterName(key.data());
+        if (converter)
+            found = encodings.constFind(QByteArray(converter).toLower());
+    }
     return found == encodings.cend() ? std::nullopt : std::optional(*found);
 }
