@@ -9,15 +9,15 @@
 
 #include <QStringList>
 
+#include <future>
 #include <memory>
-#include <thread>
 
 namespace zt {
 
 // Begins what takes the operating system a while before the first text can be shown, so that it is
-// done beside the making of the application object. Keep the thread until the program ends; it ends
-// by itself. Thread: main, first of all.
-std::jthread beginPreparingTexts();
+// done beside the making of the application object. A text that is shown before it is done does it
+// once more. Keep the answer until the program ends. Thread: main, first of all.
+std::future<void> beginPreparingTexts();
 
 // Whether there is a screen to show windows on, as far as can be told before the application object
 // is made, which ends the program where there is none. Thread: main, first of all.

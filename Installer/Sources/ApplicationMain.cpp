@@ -12,6 +12,7 @@
 
 #include <QApplication>
 
+#include <chrono>
 #include <cstdio>
 
 int applicationMain(int argumentCount, char **argumentVector) {
@@ -26,7 +27,7 @@ int applicationMain(int argumentCount, char **argumentVector) {
                    stderr);
         return 1;
     }
-    std::jthread preparation = zt::beginPreparingTexts();
+    const std::future<void> preparation = zt::beginPreparingTexts();
     // The keys are the installer's own: the framework must not take "-style" or "-name" for itself.
     int frameworkArgumentCount = 1;
     QApplication application(frameworkArgumentCount, argumentVector);
@@ -35,7 +36,9 @@ int applicationMain(int argumentCount, char **argumentVector) {
     const zt::NativePlatform native(arguments);
     const zt::ScopedPlatform current(native.services());
     const Translations translations(native.services());
-    preparation.join(); // or else the first text would do all of it once more
+    // The first text would do all of it once more, which is still sooner where other programs keep
+    // the processors busy.
+    preparation.wait_for(std::chrono::milliseconds(10));
     InstallerWinController controller({.platform = native.services(),
                                        .argumentVector = arguments,
                                        .redirectStandardStreams = redirectStandardStreams});

@@ -52,10 +52,10 @@ void InstallerWinController::awakeFromNib() {
         return;
     }
     m_window.setWindowTitle(ZTFormat(m_window.windowTitle(), productName()));
-    fillIcon();
     const auto missing = completeArguments();
     m_ui.pathField->setText(localizedPath(destinationPath()));
     if (missing) {
+        fillIcon();
         showSetupError(*missing);
         return;
     }
@@ -64,11 +64,21 @@ void InstallerWinController::awakeFromNib() {
     const auto readMe = argument(ZTInstallerKeyReadMePath);
     const bool hasReadMe = readMe && QFileInfo::exists(*readMe);
     selectTab(hasReadMe ? ReadMePage : MainPage);
+    if (hasReadMe) {
+        ZTViewExtensions::useLightAquaAppearance(*m_ui.readMeTextView,
+                                                 ZTViewExtensions::LightAppearance::Forced);
+    } else {
+        fillIcon();
+    }
     showWindow();
-    // The text is laid out once, in the size that it has now, and while the window manager makes
-    // room for the window.
-    if (hasReadMe)
-        fillReadMe(*readMe);
+    // The window comes as soon with a long read-me as with a short one, whose text is there before
+    // the screen shows its next picture; and the icon is on the other page.
+    if (hasReadMe) {
+        callAfterFirstPaint(m_window, [this, path = *readMe] {
+            fillReadMe(path);
+            fillIcon();
+        });
+    }
     if (!systemIsSupported())
         showSystemVersionAlert();
 }
@@ -111,8 +121,6 @@ void InstallerWinController::fillTexts() {
 }
 
 void InstallerWinController::fillReadMe(const QString &path) {
-    ZTViewExtensions::useLightAquaAppearance(*m_ui.readMeTextView,
-                                             ZTViewExtensions::LightAppearance::Forced);
     if (auto document = AttributedDocument::load(path)) {
         (*document)->setParent(m_ui.readMeTextView);
         (*document)->setDocumentMargin(readMeMargin);

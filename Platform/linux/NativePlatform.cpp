@@ -32,6 +32,8 @@
 #include <QStandardPaths>
 
 #include <fontconfig/fontconfig.h>
+#include <pthread.h>
+#include <sched.h>
 
 using namespace Qt::StringLiterals;
 
@@ -60,8 +62,14 @@ DesktopWorkspace::Folders workspaceFolders() {
 
 } // namespace
 
-std::jthread beginPreparingTexts() {
-    return std::jthread([] { FcInit(); }); // which is known to work on several threads
+std::future<void> beginPreparingTexts() {
+    return std::async(std::launch::async, [] {
+        // Where processors are few, it must not keep the X server from answering: the main thread
+        // waits for that.
+        const sched_param parameters{};
+        pthread_setschedparam(pthread_self(), SCHED_IDLE, &parameters);
+        FcInit(); // which is known to work on several threads
+    });
 }
 
 bool canShowWindows() {

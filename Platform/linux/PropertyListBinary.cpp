@@ -4,12 +4,11 @@
 #include "Platform/linux/PropertyListBinary.h"
 
 #include "Platform/linux/PropertyListBinaryCheck.h"
+#include "Platform/linux/PropertyListLibrary.h"
 #include "Platform/linux/PropertyListLimits.h"
 
 #include <QDateTime>
 #include <QVariantMap>
-
-#include <plist/plist.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -20,98 +19,108 @@ namespace zt {
 
 namespace {
 
-struct PropertyListDeleter {
-    void operator()(void *list) const { plist_free(list); }
-};
-
 struct AllocationDeleter {
     void operator()(void *memory) const { std::free(memory); }
 };
 
-using UniquePropertyList = std::unique_ptr<void, PropertyListDeleter>;
+using UniquePropertyList = std::unique_ptr<void, decltype(&::plist_free)>;
 using UniqueAllocation = std::unique_ptr<void, AllocationDeleter>;
 
-std::optional<QVariant> toVariant(plist_t node);
+// Takes values out of the library's nodes.
+class NodeReader {
+public:
+    explicit NodeReader(const PropertyListLibrary &library) : m_library(library) {}
 
-std::optional<QVariant> dictionaryToVariant(plist_t node) {
+    // Recurses as deep as the list is nested, which was bounded before. No value for a node of an
+    // unknown kind.
+    std::optional<QVariant> value(plist_t node) const;
+
+private:
+    std::optional<QVariant> dictionary(plist_t node) const;
+    std::optional<QVariant> array(plist_t node) const;
+    QVariant date(plist_t node) const;
+
+    const PropertyListLibrary &m_library;
+};
+
+std::optional<QVariant> NodeReader::dictionary(plist_t node) const {
     plist_dict_iter iteratorMemory = nullptr;
-    plist_dict_new_iter(node, &iteratorMemory);
+    m_library.plist_dict_new_iter(node, &iteratorMemory);
     const UniqueAllocation iterator(iteratorMemory);
     QVariantMap result;
     for (;;) {
         char *keyMemory = nullptr;
         plist_t child = nullptr;
-        plist_dict_next_item(node, iterator.get(), &keyMemory, &child);
+        m_library.plist_dict_next_item(node, iterator.get(), &keyMemory, &child);
         const UniqueAllocation key(keyMemory);
         if (!child)
             return QVariant(result);
-        std::optional<QVariant> value = toVariant(child);
-        if (!value || !keyMemory)
+        std::optional<QVariant> found = value(child);
+        if (!found || !keyMemory)
             return std::nullopt;
-        result.insert(QString::fromUtf8(keyMemory), *std::move(value));
+        result.insert(QString::fromUtf8(keyMemory), *std::move(found));
     }
 }
 
-std::optional<QVariant> arrayToVariant(plist_t node) {
+std::optional<QVariant> NodeReader::array(plist_t node) const {
     plist_array_iter iteratorMemory = nullptr;
-    plist_array_new_iter(node, &iteratorMemory);
+    m_library.plist_array_new_iter(node, &iteratorMemory);
     const UniqueAllocation iterator(iteratorMemory);
     QVariantList result;
     for (;;) {
         plist_t child = nullptr;
-        plist_array_next_item(node, iterator.get(), &child);
+        m_library.plist_array_next_item(node, iterator.get(), &child);
         if (!child)
             return QVariant(result);
-        std::optional<QVariant> value = toVariant(child);
-        if (!value)
+        std::optional<QVariant> found = value(child);
+        if (!found)
             return std::nullopt;
-        result.append(*std::move(value));
+        result.append(*std::move(found));
     }
 }
 
-std::optional<QVariant> dateToVariant(plist_t node) {
+QVariant NodeReader::date(plist_t node) const {
     qint32 seconds = 0;
     qint32 microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);
+    m_library.plist_get_date_val(node, &seconds, &microseconds);
     // The fraction comes without a sign of its own.
     const qint64 fraction = seconds < 0 ? -microseconds : microseconds;
     const QDateTime start(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
     return QVariant(start.addMSecs(qint64(seconds) * 1000 + fraction / 1000));
 }
 
-// Recurses as deep as the list is nested, which was bounded before.
-std::optional<QVariant> toVariant(plist_t node) {
-    switch (plist_get_node_type(node)) {
+std::optional<QVariant> NodeReader::value(plist_t node) const {
+    switch (m_library.plist_get_node_type(node)) {
     case PLIST_DICT:
-        return dictionaryToVariant(node);
+        return dictionary(node);
     case PLIST_ARRAY:
-        return arrayToVariant(node);
+        return array(node);
     case PLIST_DATE:
-        return dateToVariant(node);
+        return date(node);
     case PLIST_STRING: {
         std::uint64_t length = 0;
-        const char *text = plist_get_string_ptr(node, &length);
+        const char *text = m_library.plist_get_string_ptr(node, &length);
         return QVariant(QString::fromUtf8(text, static_cast<qsizetype>(length)));
     }
     case PLIST_DATA: {
         std::uint64_t length = 0;
-        const char *data = plist_get_data_ptr(node, &length);
+        const char *data = m_library.plist_get_data_ptr(node, &length);
         return QVariant(QByteArray(data, static_cast<qsizetype>(length)));
     }
     case PLIST_BOOLEAN: {
         std::uint8_t value = 0;
-        plist_get_bool_val(node, &value);
+        m_library.plist_get_bool_val(node, &value);
         return QVariant(value != 0);
     }
     case PLIST_UINT: {
         std::uint64_t value = 0;
-        plist_get_uint_val(node, &value);
+        m_library.plist_get_uint_val(node, &value);
         // Negative integers arrive as their two's complement.
         return QVariant(static_cast<qlonglong>(value));
     }
     case PLIST_REAL: {
         double value = 0;
-        plist_get_real_val(node, &value);
+        m_library.plist_get_real_val(node, &value);
         return QVariant(value);
     }
     default:
@@ -125,12 +134,16 @@ Result<QVariant> parseBinaryPropertyList(const QByteArray &content) {
     // The library unfolds shared objects and recurses into nested ones without a limit.
     if (Result<void> checked = checkBinaryPropertyList(content); !checked)
         return checked.error();
+    const PropertyListLibrary *library = propertyListLibrary();
+    if (!library)
+        return propertyListError("the binary form needs libplist, which is not installed");
     plist_t memory = nullptr;
-    plist_from_bin(content.constData(), static_cast<std::uint32_t>(content.size()), &memory);
-    const UniquePropertyList list(memory);
+    library->plist_from_bin(content.constData(), static_cast<std::uint32_t>(content.size()),
+                            &memory);
+    const UniquePropertyList list(memory, library->plist_free);
     if (!list)
         return propertyListError("the binary form is damaged");
-    std::optional<QVariant> value = toVariant(list.get());
+    std::optional<QVariant> value = NodeReader(*library).value(list.get());
     if (!value)
         return propertyListError("it holds a value of an unknown kind");
     return *std::move(value);

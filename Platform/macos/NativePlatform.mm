@@ -34,8 +34,9 @@
 namespace zt {
 
 // The list of fonts is what takes longest, and is made by whoever asks for it first.
-std::jthread beginPreparingTexts() {
-    return std::jthread([] { const CFOwner names(CTFontManagerCopyAvailableFontFamilyNames()); });
+std::future<void> beginPreparingTexts() {
+    return std::async(std::launch::async,
+                      [] { const CFOwner names(CTFontManagerCopyAvailableFontFamilyNames()); });
 }
 
 // Members are made in this order and go in the opposite one.

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Velmora Installer authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "benchmarks/startup/FirstPaint.h"
+#include "benchmarks/startup/PaintWatch.h"
 
+#include <algorithm>
 #include <csignal> // kill
 #include <cstdlib>
 
@@ -18,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto patience = 30s;
+constexpr auto silence = 250ms;
 // Smaller windows belong to the framework: nobody sees them.
 constexpr int smallestWindow = 100;
 
@@ -45,9 +47,9 @@ bool hasEnded(pid_t process) {
 
 } // namespace
 
-std::optional<FirstPaint> FirstPaint::connect() {
+std::optional<PaintWatch> PaintWatch::connect() {
     int screenNumber = 0;
-    FirstPaint result;
+    PaintWatch result;
     result.m_connection.reset(xcb_connect(nullptr, &screenNumber));
     xcb_connection_t *connection = result.m_connection.get();
     if (xcb_connection_has_error(connection) != 0)
@@ -76,12 +78,12 @@ std::optional<FirstPaint> FirstPaint::connect() {
     return result;
 }
 
-std::uint32_t FirstPaint::clientOf(xcb_window_t window) const {
+std::uint32_t PaintWatch::clientOf(xcb_window_t window) const {
     return window & ~xcb_get_setup(m_connection.get())->resource_id_mask;
 }
 
-std::optional<FirstPaint::Milliseconds>
-FirstPaint::measure(const std::string &program, const std::vector<std::string> &arguments) {
+std::optional<PaintWatch::Moments> PaintWatch::measure(const std::string &program,
+                                                       const std::vector<std::string> &arguments) {
     while (Event(xcb_poll_for_event(m_connection.get()))) {
     }
     const auto started = Clock::now();
@@ -89,16 +91,17 @@ FirstPaint::measure(const std::string &program, const std::vector<std::string> &
     if (process < 0)
         return std::nullopt;
     const auto window = awaitDrawing(process, started + patience);
-    const Milliseconds elapsed = Clock::now() - started;
+    const auto first = Clock::now();
+    const auto last = window ? awaitSilence(*window) : first;
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
     if (!window)
         return std::nullopt;
     awaitDestruction(*window, Clock::now() + patience);
-    return elapsed;
+    return Moments{first - started, std::max(first, last) - started};
 }
 
-FirstPaint::Event FirstPaint::nextEvent(Clock::time_point deadline) {
+PaintWatch::Event PaintWatch::nextEvent(Clock::time_point deadline) {
     for (;;) {
         Event event(xcb_poll_for_event(m_connection.get()));
         if (event || xcb_connection_has_error(m_connection.get()) != 0)
@@ -112,7 +115,7 @@ FirstPaint::Event FirstPaint::nextEvent(Clock::time_point deadline) {
     }
 }
 
-std::optional<xcb_window_t> FirstPaint::awaitDrawing(pid_t process, Clock::time_point deadline) {
+std::optional<xcb_window_t> PaintWatch::awaitDrawing(pid_t process, Clock::time_point deadline) {
     while (Clock::now() < deadline && !hasEnded(process)) {
         const Event event = nextEvent(Clock::now() + 100ms);
         if (!event)
@@ -122,16 +125,37 @@ std::optional<xcb_window_t> FirstPaint::awaitDrawing(pid_t process, Clock::time_
             const auto *created = reinterpret_cast<xcb_create_notify_event_t *>(event.get());
             if (!m_earlierClients.contains(clientOf(created->window)))
                 watchDrawing(created->window);
-        } else if (type == m_drawingEvent) {
-            const auto *drawn = reinterpret_cast<xcb_damage_notify_event_t *>(event.get());
-            if (drawn->geometry.width >= smallestWindow && drawn->geometry.height >= smallestWindow)
-                return drawn->drawable;
+        } else if (const auto window = drawnWindow(*event)) {
+            return window;
         }
     }
     return std::nullopt;
 }
 
-void FirstPaint::watchDrawing(xcb_window_t window) {
+std::optional<xcb_window_t> PaintWatch::drawnWindow(const xcb_generic_event_t &event) {
+    if (typeOf(event.response_type) != m_drawingEvent)
+        return std::nullopt;
+    const auto &drawn = reinterpret_cast<const xcb_damage_notify_event_t &>(event);
+    xcb_damage_subtract(m_connection.get(), drawn.damage, XCB_NONE, XCB_NONE);
+    xcb_flush(m_connection.get());
+    if (drawn.geometry.width < smallestWindow || drawn.geometry.height < smallestWindow)
+        return std::nullopt;
+    return drawn.drawable;
+}
+
+PaintWatch::Clock::time_point PaintWatch::awaitSilence(xcb_window_t window) {
+    auto last = Clock::time_point::min();
+    for (auto end = Clock::now() + silence; Clock::now() < end;) {
+        const Event event = nextEvent(end);
+        if (event && drawnWindow(*event) == window) {
+            last = Clock::now();
+            end = last + silence;
+        }
+    }
+    return last;
+}
+
+void PaintWatch::watchDrawing(xcb_window_t window) {
     // It goes with the window; a window that is gone already makes an error event, which is no
     // drawing.
     xcb_damage_create(m_connection.get(), xcb_generate_id(m_connection.get()), window,
@@ -139,7 +163,7 @@ void FirstPaint::watchDrawing(xcb_window_t window) {
     xcb_flush(m_connection.get());
 }
 
-void FirstPaint::awaitDestruction(xcb_window_t window, Clock::time_point deadline) {
+void PaintWatch::awaitDestruction(xcb_window_t window, Clock::time_point deadline) {
     // While the window is in a frame of the window manager, the root window does not tell of its
     // end; asking does.
     while (Clock::now() < deadline) {
