@@ -8,6 +8,7 @@
 #include "ZTStuff/ZTClasses/ZTCompatibility/ZTLog.h"
 #include "ZTStuff/ZTClasses/ZTRegularExpression.h"
 
+#include <algorithm>
 #include <atomic>
 
 namespace StringExtensions {
@@ -16,6 +17,13 @@ namespace {
 
 // Set once it was logged that there are no regular expressions.
 std::atomic<bool> messageLogged = false;
+
+// The index of the first star, -1 without one. Patterns are short: a call to search for it would
+// take longer than looking.
+qsizetype indexOfStar(QStringView pattern) {
+    const auto *const star = std::find(pattern.begin(), pattern.end(), u'*');
+    return star == pattern.end() ? -1 : star - pattern.begin();
+}
 
 } // namespace
 
@@ -30,7 +38,7 @@ Ordering caseInsensitiveNumericCompare(const QString &receiver, const QString &o
 bool matchesWildcardPattern(const QString &receiver, const QString &pattern) {
     const QStringView text(receiver);
     QStringView rest(pattern);
-    qsizetype star = rest.indexOf(u'*');
+    qsizetype star = indexOfStar(rest);
     if (star < 0)
         return receiver == pattern;
     if (star > 0 && !text.startsWith(rest.left(star)))
@@ -38,7 +46,7 @@ bool matchesWildcardPattern(const QString &receiver, const QString &pattern) {
     qsizetype position = star;
     for (;;) {
         rest = rest.mid(star + 1);
-        star = rest.indexOf(u'*');
+        star = indexOfStar(rest);
         if (star < 0)
             return rest.isEmpty() || (rest.size() <= text.size() - position && text.endsWith(rest));
         const QStringView part = rest.left(star);
