@@ -76,6 +76,7 @@ void InstallerWinController::awakeFromNib() {
     if (hasReadMe) {
         callAfterFirstPaint(m_window, [this, path = *readMe] {
             fillReadMe(path);
+            m_ui.readMeTextView->viewport()->repaint(); // all else comes after the text
             fillIcon();
         });
     }
@@ -137,15 +138,19 @@ void InstallerWinController::fillReadMe(const QString &path) {
 void InstallerWinController::showWindow() {
     const QScreen *screen = QApplication::primaryScreen();
     const QRect available = screen->availableGeometry();
-    // Long texts and large fonts make the window taller, as far as the screen allows.
-    const int width = std::min(m_window.width(), available.width());
-    const int height = std::max(m_window.height(), fittingHeight(width));
-    m_window.resize(width, std::min(height, available.height()));
-    m_window.move(available.center() - m_window.rect().center());
+    const auto place = [this, &available](int width, int height) {
+        m_window.resize(std::min(width, available.width()), std::min(height, available.height()));
+        m_window.move(available.center() - m_window.rect().center());
+    };
+    place(m_window.width(), m_window.height());
     m_ui.installButton->setFocus();
     m_window.show();
     m_window.raise();
     m_window.activateWindow();
+    // Long texts and large fonts make the window taller. How tall is found out while the window
+    // manager makes room for the window, before it is painted.
+    if (const int height = fittingHeight(m_window.width()); height > m_window.height())
+        place(m_window.width(), height);
     // The window does not wait for any of this.
     callAfterFirstPaint(m_window, [this] {
         if (const auto self = ZTProcess::currentProcess())
