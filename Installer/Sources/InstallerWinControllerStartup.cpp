@@ -71,13 +71,13 @@ void InstallerWinController::awakeFromNib() {
         fillIcon();
     }
     showWindow();
-    // The window comes as soon with a long read-me as with a short one, whose text is there before
-    // the screen shows its next picture; and the icon is on the other page.
+    // The window comes as soon with a long read-me as with a short one, whose text and icon are
+    // there before the screen shows its next picture.
     if (hasReadMe) {
         callAfterFirstPaint(m_window, [this, path = *readMe] {
-            fillReadMe(path);
-            m_ui.readMeTextView->viewport()->repaint(); // all else comes after the text
             fillIcon();
+            fillReadMe(path);
+            m_window.repaint(); // all else comes after these
         });
     }
     if (!systemIsSupported())
