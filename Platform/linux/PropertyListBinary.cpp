@@ -86,7 +86,7 @@ QVariant NodeReader::date(plist_t node) const {
     // The fraction comes without a sign of its own.
     const qint64 fraction = seconds < 0 ? -microseconds : microseconds;
     const QDateTime start(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
-    return QVariant(start.addMSecs(qint64(seconds) * 1000 + fraction / 1000));
+    return start.addMSecs(qint64(seconds) * 1000 + fraction / 1000);
 }
 
 std::optional<QVariant> NodeReader::value(plist_t node) const {

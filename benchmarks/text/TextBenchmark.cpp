@@ -63,10 +63,11 @@ private:
         const std::vector<double> times = shortestTimes(works);
         const std::string areaAndCase = std::string("text.") + name + '_' + m_size.name;
         zt::printBenchLine(areaAndCase.c_str(), "ns_per_unit", times[0] / double(m_size.units));
-        for (std::size_t index = 0; index < peers.size(); ++index)
+        for (std::size_t index = 0; index < peers.size(); ++index) {
             zt::printBenchLine(areaAndCase.c_str(),
                                (std::string("times_as_fast_as_") + peers[index].name).c_str(),
                                times[index + 1] / times[0]);
+        }
     }
 
     // For operations that answer a text.
@@ -305,8 +306,8 @@ private:
 int main(int argc, char **argv) {
     const std::vector<std::string_view> wanted(argv + 1, argv + argc);
     constexpr qsizetype unitsOfKilobyte = 1024 / 2;
-    for (const Size &size : {Size{"1KB", unitsOfKilobyte}, Size{"1MB", 1024 * unitsOfKilobyte},
-                             Size{"64MB", 64 * 1024 * unitsOfKilobyte}}) {
+    for (const Size &size : {Size{"1KB", unitsOfKilobyte}, Size{"1MB", unitsOfKilobyte * 1024},
+                             Size{"64MB", unitsOfKilobyte * 64 * 1024}}) {
         if (wanted.empty() || std::ranges::find(wanted, size.name) != wanted.end())
             TextBenchmark(size).run();
     }
