@@ -8,7 +8,6 @@
 #include <unicode/ucnv.h>
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 
 namespace {
@@ -96,10 +95,6 @@ const char *converterName(const char *name) {
     return U_SUCCESS(status) ? found : nullptr;
 }
 
-char lowerCase(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
-}
-
 // By the names above and those of ICU's converters, in lower case. Where one converter serves
 // several encodings, the first counts.
 QHash<QByteArray, StringEncoding> encodingsByName() {
@@ -129,12 +124,11 @@ std::optional<StringEncoding> encodingWithIANAName(QByteArrayView name) {
     if (name.isEmpty() || name.size() > longestName)
         return std::nullopt;
     static const QHash<QByteArray, StringEncoding> encodings = encodingsByName();
-    std::array<char, longestName + 1> key{};
-    std::ranges::transform(name, key.begin(), lowerCase);
-    auto found = encodings.constFind(QByteArray::fromRawData(key.data(), name.size()));
+    const QByteArray key = name.toByteArray().toLower();
+    auto found = encodings.constFind(key);
     if (found == encodings.cend()) {
         // ICU knows a thousand further spellings; looking through them takes longer.
-        const char *const converter = converterName(key.data());
+        const char *const converter = converterName(key.constData());
         if (converter)
             found = encodings.constFind(QByteArray(converter).toLower());
     }
